@@ -1,0 +1,19 @@
+// Acid-base equilibrium.
+#include "modules/modulos.h"
+
+namespace ss::mod {
+namespace {
+
+// Generators 1..8, in the order of their numbers. An empty slot is a
+// generator not written yet: its problems come out as the fallback notice.
+constexpr Generador kGeneradores[8] = {};
+
+}  // namespace
+
+const ModuloDef& ANEU_QUIM_EAB() {
+  static const ModuloDef def{"ANEU_QUIM_EAB", "EAB", kGeneradores, "ATEM_QUIM_EAB",
+                             {}};
+  return def;
+}
+
+}  // namespace ss::mod
