@@ -175,7 +175,9 @@ std::string ModuloDispatcher(const ModuloDef& m, GenContext& g, std::string_view
     LimpiaEntrada(g);
 
     if (n >= 1 && n <= m.N()) {
-      if (Generador gen = m.generadores[static_cast<std::size_t>(n - 1)]) gen(g);
+      const auto k = static_cast<std::size_t>(n - 1);
+      const bool soloEntrada = k < m.entradas.size() && EntradaCatalogo(g, m.entradas[k]);
+      if (Generador gen = m.generadores[k]; gen && !soloEntrada) gen(g);
     } else if (!listMode) {
       AvisoSinRutina(g, m.nombre);
     }

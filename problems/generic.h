@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "problems/aleatorio.h"
+#include "problems/generador.h"
 #include "problems/mensajes.h"
 
 namespace ss {
@@ -71,12 +72,18 @@ using Generador = void (*)(GenContext&);
 
 // A problem module: its generators 1..N (index 0 is generator 1; a null entry
 // is a generator not written yet, which gives no text) and its fallback.
+//
+// A module with a table of catalogue entries (one per generator) has the
+// dispatcher set each generator's entry from it: GP_MaxItems in both modes, the
+// whole entry in list mode, where the generator itself is then not called.
+// Without the table each generator sets its own entry (see EntradaCatalogo).
 struct ModuloDef {
   std::string_view nombre;                        // "ANEU_QUIM_DIS"
   std::string_view codigo;                        // "DIS": the keys S_DIS_<n>, D_DIS_<n>
   std::span<const Generador> generadores;
   std::string_view respaldo;                      // "ATEM_QUIM_DIS"
   std::span<const Generador> generadoresRespaldo; // the fallback's own, if any
+  std::span<const Entrada> entradas;              // empty, or one per generator
   int N() const { return static_cast<int>(generadores.size()); }
 };
 
