@@ -3,11 +3,13 @@
 #include <QGuiApplication>
 
 #include <cstdio>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "modules/modulos.h"
+#include "problems/idioma.h"
 #include "problems/texto.h"
 
 namespace {
@@ -20,6 +22,19 @@ int Usage(const std::string& why = {}) {
   std::fprintf(stderr, "%s\n", line.c_str());
   return 2;
 }
+
+// The services of a run: notation and the message tables of the program's
+// folder, where lang/ stands beside the executable. Notices about the data
+// go to stderr.
+struct Servicios {
+  ss::Notacion notacion;
+  ss::Mensajes mensajes{std::filesystem::path(
+                            QCoreApplication::applicationDirPath().toStdString()),
+                        [](const std::string& aviso) {
+                          std::fprintf(stderr, "warning: %s\n", ss::Cp1252ToUtf8(aviso).c_str());
+                        }};
+  Servicios() { ss::InitServicios(notacion, mensajes); }
+};
 
 // A JSON string of UTF-8 text.
 std::string Json(const std::string& utf8) {
@@ -74,7 +89,8 @@ int Generate(const QStringList& args) {
   }
   if (positional.size() != 2) return Usage("generate takes a MODULE and a COMMAND");
 
-  ss::GenContext g(nullptr, ss::Aleatorio(seed));
+  Servicios servicios;
+  ss::GenContext g(&servicios.mensajes, ss::Aleatorio(seed));
   std::string statement, solution;
   ss::GeneraProblema(g, ss::Utf8ToCp1252(positional[0].toStdString()),
                      ss::Utf8ToCp1252(positional[1].toStdString()), statement, solution);
@@ -86,7 +102,8 @@ int Generate(const QStringList& args) {
 
 int Catalogue(const QStringList& args) {
   if (!args.isEmpty()) return Usage("catalogue takes no arguments");
-  ss::GenContext g;
+  Servicios servicios;
+  ss::GenContext g(&servicios.mensajes);
   std::vector<std::string> catalogo;
   ss::ListaProblemas(g, catalogo);
   for (const std::string& entry : catalogo) {
@@ -115,8 +132,13 @@ int main(int argc, char** argv) {
   if (args.isEmpty()) return Usage();
   const QString command = args.front();
   const QStringList rest = args.mid(1);
-  if (command == u"generate") return Generate(rest);
-  if (command == u"catalogue") return Catalogue(rest);
+  try {
+    if (command == u"generate") return Generate(rest);
+    if (command == u"catalogue") return Catalogue(rest);
+  } catch (const ss::ErrorFatalDatos& e) {
+    std::fprintf(stderr, "error: %s\n", e.what());
+    return 1;
+  }
   if (command == u"--help" || command == u"-h") {
     std::printf("%s\n", kUsage);
     return 0;

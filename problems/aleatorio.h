@@ -23,6 +23,9 @@ class Aleatorio {
 
   bool Sembrado() const { return seeded_; }
 
+  // Set when a draw of AleatorioEn gave up on a range it could not meet.
+  bool RangoFallido = false;
+
   // A source that returns the given values in turn, over and over, and
   // ignores re-seeding: for tests that need exact draws.
   static Aleatorio Guionado(std::vector<double> valores);

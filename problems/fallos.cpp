@@ -10,7 +10,8 @@ double Finite(double x) {
 }
 
 double Div(double a, double b) {
-  if (b == 0.0) throw GenFault::DivisionByZero();
+  // 0 / 0 has no value at all: the classic runtime calls that an overflow.
+  if (b == 0.0) throw a == 0.0 ? GenFault::Overflow() : GenFault::DivisionByZero();
   return Finite(a / b);
 }
 

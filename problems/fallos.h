@@ -39,7 +39,7 @@ class GenFault : public std::runtime_error {
 };
 
 // Checked arithmetic for generators.
-double Div(double a, double b);     // 11 on b == 0, 6 on a non-finite result
+double Div(double a, double b);     // 11 on b == 0 (6 for 0 / 0), 6 on a non-finite result
 double Sqrt(double x);              // 5 when x < 0
 double Log(double x);               // natural logarithm; 5 when x <= 0
 double Log10(double x);             // 5 when x <= 0

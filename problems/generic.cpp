@@ -4,6 +4,7 @@
 #include <cctype>
 
 #include "problems/fallos.h"
+#include "problems/idioma.h"
 #include "problems/silabo.h"
 #include "problems/texto.h"
 
@@ -271,6 +272,8 @@ void GeneraProblema(TablaModulos modulos, GenContext& g, std::string_view module
   } catch (const GenFault& f) {
     numero = f.number();
     descripcion = f.what();
+  } catch (const ErrorFatalDatos&) {
+    throw;  // broken data files end the program, not just this problem
   } catch (const std::exception& e) {
     numero = GenFault::InvalidArgument().number();
     descripcion = Utf8ToCp1252(e.what());
@@ -293,6 +296,8 @@ void ListaProblemas(TablaModulos modulos, GenContext& g, std::vector<std::string
     std::string statement, solution, texto;
     try {
       texto = ModuloDispatcher(*m, g, {}, statement, solution, true);
+    } catch (const ErrorFatalDatos&) {
+      throw;
     } catch (...) {
       continue;  // a module that cannot list itself offers nothing
     }

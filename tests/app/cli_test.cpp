@@ -4,6 +4,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QSet>
 
 namespace {
 
@@ -42,8 +43,8 @@ TEST(Cli, GenerateGivesTheNoticeOfAMissingRoutine) {
   ASSERT_FALSE(r.crashed);
   EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
   QJsonObject o = Json(r);
-  EXPECT_TRUE(o.value("statement").toString().contains("ATEM__QUIM__TER:"));
-  EXPECT_TRUE(o.value("statement").toString().contains("015>&LF"));
+  EXPECT_EQ(o.value("statement").toString(),
+            "<Error in module ATEM__QUIM__TER:. No generator no.015>&LF");
   EXPECT_EQ(o.value("solution").toString(), "&LF");
   EXPECT_TRUE(r.out.startsWith("{\"statement\": ")) << r.out.toStdString();
   EXPECT_TRUE(r.err.isEmpty()) << r.err.toStdString();
@@ -108,11 +109,37 @@ TEST(Cli, OddArgumentsStillGiveAProblem) {
   }
 }
 
-TEST(Cli, CatalogueIsEmptyWithoutLanguageFiles) {
+TEST(Cli, CatalogueListsEveryGeneratorUnderItsTopic) {
   Salida r = Cli({"catalogue"});
   ASSERT_FALSE(r.crashed);
-  EXPECT_EQ(r.exitCode, 0);
-  EXPECT_TRUE(r.out.isEmpty()) << r.out.left(200).toStdString();
+  EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+  const QList<QByteArray> lines = r.out.split('\n');
+  int details = 0, headings = 0;
+  QByteArray previousModule;
+  QSet<QByteArray> modules;
+  for (const QByteArray& line : lines) {
+    if (line.isEmpty()) continue;
+    const qsizetype colon = line.indexOf(':');
+    ASSERT_GT(colon, 0);
+    const QByteArray module = line.left(colon);
+    const QString rec = QString::fromUtf8(line.mid(colon + 1));
+    ASSERT_EQ(rec.size(), 398) << line.toStdString();
+    if (module != previousModule) {
+      EXPECT_FALSE(modules.contains(module)) << "modules come in one run each";
+      modules.insert(module);
+      previousModule = module;
+    }
+    if (rec.at(231) == '5') {
+      ++headings;
+    } else {
+      ++details;
+      EXPECT_FALSE(rec.mid(151, 80).trimmed().isEmpty());
+      EXPECT_FALSE(rec.mid(238, 160).trimmed().isEmpty());
+    }
+  }
+  EXPECT_EQ(details, 105);
+  EXPECT_EQ(headings, 14);
+  EXPECT_EQ(modules.size(), 10);
 }
 
 }  // namespace

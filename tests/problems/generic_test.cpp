@@ -8,6 +8,7 @@
 
 #include "problems/fallos.h"
 #include "problems/generador.h"
+#include "problems/idioma.h"
 #include "problems/texto.h"
 #include "tests/problems/fakes.h"
 
@@ -84,6 +85,10 @@ MensajesFijos Completos() {
 struct Hecho {
   std::string statement, solution;
 };
+
+std::string Fields(const std::string& r, std::size_t from, std::size_t len) {
+  return std::string(Mid(r, from, len));
+}
 
 Hecho Genera(GenContext& g, std::string_view module, std::string_view command) {
   Hecho h;
@@ -284,11 +289,57 @@ TEST(GeneraProblema, ConsecutiveVariantsPassThroughTheForms) {
   EXPECT_EQ(c, "form 2");
 }
 
-// The catalogue.
-
-std::string Fields(const std::string& r, std::size_t from, std::size_t len) {
-  return std::string(Mid(r, from, len));
+TEST(GeneraProblema, ABrokenMessageFileIsNotTurnedIntoAProblem) {
+  class Rota : public FuenteMensajes {
+   public:
+    const std::string* Buscar(TablaMensajes, std::string_view) override {
+      throw ErrorFatalDatos("lang/ENG_MGE_QUI.lmo", 12, "an entry without \"]=\"");
+    }
+  } rota;
+  GenContext g(&rota, Aleatorio(1));
+  std::string st, so;
+  EXPECT_THROW(GeneraProblema(kTabla, g, "ANEU_QUIM_TST", "0010000000000000", st, so),
+               ErrorFatalDatos);
+  std::vector<std::string> cat;
+  EXPECT_THROW(ListaProblemas(kTabla, g, cat), ErrorFatalDatos);
 }
+
+// A module whose catalogue entries stand in a table beside its generators.
+int llamadasConTabla = 0;
+void GenConTabla(GenContext& g) {
+  ++llamadasConTabla;
+  g.GP_Statement = "bound " + g.GP_MaxItems + ", items " + std::to_string(ItemsEjercicio(g));
+}
+constexpr Generador kGenTabla[] = {GenConTabla, nullptr};
+constexpr Entrada kEntradasTabla[] = {{"2", "760", "T_Gases", "030", "006"},
+                                      {"3", "770", "T_Disoluciones", "010", ""}};
+const ModuloDef kConTabla{"ANEU_QUIM_TAB", "TAB", kGenTabla, "ATEM_QUIM_TAB", {}, kEntradasTabla};
+
+TEST(ModuloConTabla, ListModeReadsTheTableAndGenerateModeGetsTheBound) {
+  MensajesFijos m = Completos();
+  m.Pon("S_TAB_1", "Tabled");
+  m.Pon("D_TAB_1", "&D1 Tabled");
+  m.Pon("S_TAB_2", "Not written yet");
+  m.Pon("D_TAB_2", "&D2 Later");
+  const ModuloDef* const tabla[] = {&kConTabla};
+  GenContext g(&m, Aleatorio(1));
+  std::vector<std::string> cat;
+  llamadasConTabla = 0;
+  ListaProblemas(tabla, g, cat);
+  EXPECT_EQ(llamadasConTabla, 0);  // the entry comes from the table alone
+  ASSERT_EQ(cat.size(), 4u);      // an unwritten generator is listed all the same
+  EXPECT_EQ(Fields(cat[1].substr(14), 1, 6), "760030");
+  EXPECT_EQ(Fields(cat[1].substr(14), 232, 7), "2001006");
+  EXPECT_EQ(Fields(cat[3].substr(14), 1, 6), "770010");
+  EXPECT_EQ(Fields(cat[3].substr(14), 232, 7), "3002000");
+
+  std::string st, so;
+  GeneraProblema(tabla, g, "ANEU_QUIM_TAB", "0010000000090000", st, so);
+  EXPECT_EQ(llamadasConTabla, 1);
+  EXPECT_EQ(st, "bound 006, items 6");
+}
+
+// The catalogue.
 
 TEST(Registros, HeadingAndDetailHaveTheirColumns) {
   CamposRegistro c{"7", "20", "Chemistry", "Gases", "Volume", "", "3", "8", "&D1 Find"};
