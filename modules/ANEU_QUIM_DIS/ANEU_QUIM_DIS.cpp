@@ -1,6 +1,8 @@
 // Gases, formulas and solutions.
 #include "modules/modulos.h"
 
+#include "modules/ANEU_QUIM_DIS/dis.h"
+
 namespace ss::mod {
 namespace {
 
@@ -34,9 +36,13 @@ constexpr Entrada kEntradas[21] = {
     {"2", "750", kFormulas, "280", "027"},   // 21 imperial mass
 };
 
-// Generators 1..21, in the order of their numbers. An empty slot is a
-// generator not written yet: its problems come out as the fallback notice.
-constexpr Generador kGeneradores[21] = {};
+using namespace dis;
+
+constexpr Generador kGeneradores[21] = {
+    Generador1,  Generador2,  Generador3,  Generador4,  Generador5,  Generador6,  Generador7,
+    Generador8,  Generador9,  Generador10, Generador11, Generador12, Generador13, Generador14,
+    Generador15, Generador16, Generador17, Generador18, Generador19, Generador20, Generador21,
+};
 
 }  // namespace
 

@@ -201,7 +201,7 @@ TEST(ShippedLanguageFiles, AreWellFormedCrLfWindows1252WithoutSlips) {
     }
     EXPECT_GT(keys.size(), 5u) << name;
   }
-  EXPECT_EQ(files, 6);
+  EXPECT_GE(files, 6);
 }
 
 TEST(ShippedLanguageFiles, EveryWindowKeyIsInItsWindowsFile) {
