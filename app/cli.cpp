@@ -11,11 +11,14 @@
 #include "modules/modulos.h"
 #include "problems/idioma.h"
 #include "problems/texto.h"
+#include "typeset/motor.h"
+#include "typeset/salida.h"
 
 namespace {
 
 constexpr const char* kUsage =
-    "usage: sheetsmith-cli generate MODULE COMMAND [--seed N] | sheetsmith-cli catalogue";
+    "usage: sheetsmith-cli generate MODULE COMMAND [--seed N] | sheetsmith-cli catalogue | "
+    "sheetsmith-cli markup TEXT -o OUT.png|OUT.pdf [--zoom Z]";
 
 int Usage(const std::string& why = {}) {
   std::string line = why.empty() ? std::string(kUsage) : why + " (" + kUsage + ")";
@@ -114,6 +117,49 @@ int Catalogue(const QStringList& args) {
   return 0;
 }
 
+// One markup text set on one page, written as a PNG (as on screen) or a PDF
+// (as printed).
+int Markup(const QStringList& args) {
+  QStringList positional;
+  QString out;
+  double zoom = 1;
+  for (qsizetype i = 0; i < args.size(); ++i) {
+    const QString& a = args[i];
+    if (a == u"-o" || a == u"--zoom") {
+      if (i + 1 >= args.size()) return Usage(a.toStdString() + " needs a value");
+      const QString v = args[++i];
+      if (a == u"-o") {
+        out = v;
+      } else {
+        bool ok = false;
+        zoom = v.toDouble(&ok);
+        if (!ok || !(zoom >= 0.1 && zoom <= 8)) return Usage("--zoom takes a number from 0.1 to 8");
+      }
+    } else if (a.startsWith(u"-") && a.size() > 1) {
+      return Usage("unknown option '" + a.toStdString() + "'");
+    } else {
+      positional << a;
+    }
+  }
+  if (positional.size() != 1) return Usage("markup takes one TEXT");
+  if (out.isEmpty()) return Usage("markup needs -o OUT.png or -o OUT.pdf");
+  const bool pdf = out.endsWith(u".pdf", Qt::CaseInsensitive);
+  if (!pdf && !out.endsWith(u".png", Qt::CaseInsensitive))
+    return Usage("the output must end in .png or .pdf");
+  const std::string texto = ss::Utf8ToCp1252(positional[0].toStdString());
+  ss::Motor motor;
+  const ss::PintaPagina pinta = [&](int, ss::Canvas& canvas) {
+    motor.ComponerTexto(texto, 12, canvas);
+  };
+  QString error;
+  const bool ok = pdf ? ss::EscribePdf(out, 1, pinta, &error) : ss::EscribePng(out, zoom, 1, pinta, &error);
+  if (!ok) {
+    std::fprintf(stderr, "error: %s\n", error.toLocal8Bit().constData());
+    return 1;
+  }
+  return 0;
+}
+
 // Qt's own notices (a missing runtime folder and the like) would mix with the
 // tool's output; only its critical and fatal messages pass.
 void QuietQt(QtMsgType type, const QMessageLogContext&, const QString& msg) {
@@ -135,6 +181,7 @@ int main(int argc, char** argv) {
   try {
     if (command == u"generate") return Generate(rest);
     if (command == u"catalogue") return Catalogue(rest);
+    if (command == u"markup") return Markup(rest);
   } catch (const ss::ErrorFatalDatos& e) {
     std::fprintf(stderr, "error: %s\n", e.what());
     return 1;

@@ -1,0 +1,70 @@
+// A Canvas for tests: simple exact metrics, and a record of what was drawn.
+//
+// Every character is 10 twips wide per point of size (120 at 12 points), a
+// line of text is 23 twips high per point, the ascent 18 per point.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "typeset/canvas.h"
+
+namespace ss::test {
+
+struct Trazo {
+  std::string texto;  // one Print
+  double x, y;
+  EstadoFuente fuente;
+  int32_t color;
+};
+
+struct Raya {
+  double x1, y1, x2, y2;
+  int32_t color;
+  ModoLinea modo;
+  int grosor;
+};
+
+class CanvasRegistro : public Canvas {
+ public:
+  explicit CanvasRegistro(bool pantalla = false) : pantalla_(pantalla) {}
+
+  std::vector<Trazo> trazos;
+  std::vector<Raya> rayas;
+  int medidas = 0;  // TextWidth calls
+
+  void Print(std::string_view text) override {
+    trazos.push_back({std::string(text), CurrentX, CurrentY, fuente, ForeColor});
+    CurrentX += Ancho(text);
+  }
+  double TextWidth(std::string_view text) override {
+    ++medidas;
+    return Ancho(text);
+  }
+  double TextHeight(std::string_view) override { return 23 * fuente.tamano; }
+  double FontAscent() override { return 18 * fuente.tamano / TwipsPerPixelY(); }
+  void Line(double x1, double y1, double x2, double y2, int32_t color, ModoLinea modo) override {
+    rayas.push_back({x1, y1, x2, y2, color, modo, DrawWidth});
+  }
+  void Circle(double, double, double, int32_t, double, double) override {}
+  void PaintPicture(const std::string&, double, double, double, double) override {}
+  double Width() const override { return 796; }
+  double Height() const override { return 1125; }
+  double TwipsPerPixelX() const override { return 15; }
+  double TwipsPerPixelY() const override { return 15; }
+  bool EsPantalla() const override { return pantalla_; }
+
+  double Ancho(std::string_view text) const { return 10 * fuente.tamano * static_cast<double>(text.size()); }
+
+  // What was printed, joined.
+  std::string Texto() const {
+    std::string s;
+    for (const Trazo& t : trazos) s += t.texto;
+    return s;
+  }
+
+ private:
+  bool pantalla_;
+};
+
+}  // namespace ss::test
