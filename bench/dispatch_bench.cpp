@@ -2,6 +2,8 @@
 #include <benchmark/benchmark.h>
 
 #include "modules/modulos.h"
+#include "problems/idioma.h"
+#include "problems/texto.h"
 #include "worksheet/coleccion.h"
 
 namespace {
@@ -15,6 +17,22 @@ void BM_GeneraProblemaNotice(benchmark::State& state) {
   }
 }
 BENCHMARK(BM_GeneraProblemaNotice);
+
+// One real problem of the gases, formulas and solutions module, with the
+// message tables loaded; the variant runs on so that every form is met.
+void BM_GeneraDis(benchmark::State& state) {
+  static ss::Mensajes mensajes(SS_SOURCE_DIR);
+  ss::GenContext g(&mensajes, ss::Aleatorio(1));
+  const std::string cabeza = ss::ZeroPadCut(state.range(0), 3) + "000";
+  std::string st, so;
+  int variante = 0;
+  for (auto _ : state) {
+    const std::string command = cabeza + ss::ZeroPadCut(variante++ % 100, 4) + "060301";
+    ss::GeneraProblema(g, "ANEU_QUIM_DIS", command, st, so);
+    benchmark::DoNotOptimize(st);
+  }
+}
+BENCHMARK(BM_GeneraDis)->DenseRange(1, 21)->Unit(benchmark::kMicrosecond);
 
 void BM_ArbolToVar500(benchmark::State& state) {
   ss::Arbol arbol;

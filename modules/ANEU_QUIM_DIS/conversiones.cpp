@@ -1,18 +1,20 @@
-// PLACEHOLDER: being written.
+// Unit conversions: each generator hands one of the shared conversion
+// exercises its catalogue place.
 #include "modules/ANEU_QUIM_DIS/dis.h"
+#include "problems/conversiones.h"
 
 namespace ss::mod::dis {
 
-void Generador11(GenContext&) {}
-void Generador12(GenContext&) {}
-void Generador13(GenContext&) {}
-void Generador14(GenContext&) {}
-void Generador15(GenContext&) {}
-void Generador16(GenContext&) {}
-void Generador17(GenContext&) {}
-void Generador18(GenContext&) {}
-void Generador19(GenContext&) {}
-void Generador20(GenContext&) {}
-void Generador21(GenContext&) {}
+void Generador11(GenContext& g) { ConversionesDecimales(g, Escalera::Masa); }
+void Generador12(GenContext& g) { ConversionesDecimales(g, Escalera::Longitud); }
+void Generador13(GenContext& g) { ConversionesDecimales(g, Escalera::Superficie); }
+void Generador14(GenContext& g) { ConversionesDecimales(g, Escalera::SuperficieAgraria); }
+void Generador15(GenContext& g) { ConversionesDecimales(g, Escalera::Volumen); }
+void Generador16(GenContext& g) { ConversionesDecimales(g, Escalera::Capacidad); }
+void Generador17(GenContext& g) { ConversionesDecimales(g, Escalera::VolumenCapacidad); }
+void Generador18(GenContext& g) { ConversionesTemperatura(g, false); }
+void Generador19(GenContext& g) { ConversionesTemperatura(g, true); }
+void Generador20(GenContext& g) { ConversionesLongitudImperial(g); }
+void Generador21(GenContext& g) { ConversionesMasaImperial(g); }
 
 }  // namespace ss::mod::dis
