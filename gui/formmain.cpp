@@ -2,9 +2,9 @@
 
 #include <QLabel>
 
-namespace ss {
+#include "worksheet/sesion.h"
 
-QString TituloApp() { return QStringLiteral("Lumenfold - Sheetsmith - Chemistry"); }
+namespace ss {
 
 FormMain::FormMain(const QStringList& ficherosAbrir, QWidget* parent)
     : QMainWindow(parent), ficherosAbrir_(ficherosAbrir) {

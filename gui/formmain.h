@@ -21,7 +21,4 @@ class FormMain : public QMainWindow {
   QStringList ficherosAbrir_;
 };
 
-// The window title when no file name is shown.
-QString TituloApp();
-
 }  // namespace ss

@@ -45,7 +45,7 @@ inline constexpr int kMaxCajas = 200;
 inline constexpr int kMaxConstruccionesLinea = 50;
 inline constexpr int kMaxArgumentos = 40;
 inline constexpr int kMaxLineas = 10000;
-inline constexpr int kMaxMarcas = 500;
+inline constexpr int kMaxMarcasTexto = 500;
 
 class Motor {
  public:

@@ -49,7 +49,7 @@ void Motor::ComponerTexto(std::string_view texto, double tamano, Canvas& c) {
     std::string linea = SustituyeCodigos(cruda, reemplazos);
     if (linea.starts_with("#MARK")) {
       UltimaMarca = static_cast<int>(Val(Mid(linea, 7, 3)));
-      if (marcas.size() < static_cast<std::size_t>(kMaxMarcas)) marcas.push_back({UltimaMarca, 0, 0});
+      if (marcas.size() < static_cast<std::size_t>(kMaxMarcasTexto)) marcas.push_back({UltimaMarca, 0, 0});
     }
     if (const std::size_t at = linea.find("&LSAN="); at != std::string::npos) {
       const std::size_t dosPuntos = linea.find(':', at);

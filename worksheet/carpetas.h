@@ -1,0 +1,29 @@
+// The folders of a run: the program's own (lang/, img/ and the .sed files
+// stand beside the executable) and the private scratch folder.
+#pragma once
+
+#include <QString>
+
+namespace ss {
+
+struct Carpetas {
+  QString programa;  // the folder of the executable
+  QString temporal;  // the scratch folder; created on first need
+
+  QString Img() const;   // programa + "/img"
+  QString Lang() const;  // programa + "/lang"
+};
+
+// The scratch folder of this user: "lftemp" under the system's temporary
+// folder, or "lftemp-<uid>" when that name is a symbolic link or another
+// user's. Not created here.
+QString CarpetaTemporal();
+
+// Creates the scratch folder (mode 0700) if it is missing; false on failure.
+bool CreaCarpetaTemporal(const QString& carpeta);
+
+// `nombre` in `carpeta`: the exact name first, else one that differs only in
+// case; empty when there is none.
+QString BuscaEnCarpeta(const QString& carpeta, const QString& nombre);
+
+}  // namespace ss

@@ -1,0 +1,19 @@
+#include "worksheet/sesion.h"
+
+namespace ss {
+
+QString TituloApp() { return QStringLiteral("Lumenfold - Sheetsmith - Chemistry"); }
+
+void NoColeccion(Sesion& s) {
+  s.doc.col = Coleccion{};
+  s.doc.bloques.clear();
+  s.doc.marcas.clear();
+  s.doc.ruta.clear();
+  s.doc.paginaActual = 1;
+  s.doc.numPaginas = 0;
+  s.doc.Modificada = false;
+  s.plataforma.EstadoDocumento(false);
+  s.plataforma.TituloVentana(TituloApp());
+}
+
+}  // namespace ss
