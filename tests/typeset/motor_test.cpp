@@ -148,6 +148,33 @@ TEST(Drawing, SymbolsSubscriptsAndPowers) {
   EXPECT_EQ(Pagina("a-b").c.Texto(), "a\x96" "b");
 }
 
+TEST(Drawing, ASizeOrFontChangeKeepsTheBaseline) {
+  Pagina p("a&FS=24:b&FN=Arial:c");
+  ASSERT_EQ(p.c.trazos.size(), 3u);
+  // The ascent grows from 18 x 12 to 18 x 24 twips: the top moves up by the difference.
+  EXPECT_DOUBLE_EQ(p.c.trazos[1].y, p.c.trazos[0].y - 18 * 12);
+  EXPECT_EQ(p.c.trazos[1].fuente.tamano, 24);
+  EXPECT_EQ(p.c.trazos[2].fuente.nombre, "Arial");
+  EXPECT_DOUBLE_EQ(p.c.trazos[2].y, p.c.trazos[1].y);
+}
+
+TEST(Drawing, FilledRectanglesInTheBackgroundColour) {
+  Pagina p("ab&BC=Rojo:&FF=REC,20,5.5:c&FF=REC,0,5:&FF=OVAL,3,3:");
+  EXPECT_EQ(p.c.Texto(), "abc");
+  ASSERT_EQ(p.c.rayas.size(), 2u);
+  const test::Raya& r = p.c.rayas[0];
+  EXPECT_EQ(r.modo, ModoLinea::CajaLlena);
+  EXPECT_EQ(r.color, 255);
+  EXPECT_NEAR(r.x2 - r.x1, 20 / 25.4 * 1440, 1e-9);
+  EXPECT_NEAR(r.y2 - r.y1, 5.5 / 25.4 * 1440, 1e-9);
+  EXPECT_DOUBLE_EQ(r.x1, p.c.trazos[1].x + 121);  // at the pen, behind "b"
+  // The pen did not move: "c" follows "b" directly.
+  EXPECT_DOUBLE_EQ(p.c.trazos[2].x, p.c.trazos[1].x + kLetra);
+  // A width of 0 runs from the left edge over the whole canvas.
+  EXPECT_DOUBLE_EQ(p.c.rayas[1].x1, 0);
+  EXPECT_NEAR(p.c.rayas[1].x2, 796 * 15, 1e-6);
+}
+
 TEST(Drawing, ArrowsAndBondsAreRules) {
   Pagina p("A&QB C&=C N&#N");
   EXPECT_EQ(p.c.Texto(), "AB CC NN");
