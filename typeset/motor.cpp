@@ -5,6 +5,7 @@
 #include <span>
 
 #include "problems/texto.h"
+#include "typeset/construccion.h"
 
 namespace ss {
 namespace {
@@ -54,7 +55,7 @@ void ConstruccionLlana(Motor& m, std::string_view bloque, int caja);
 
 }  // namespace
 
-Motor::Motor() = default;
+Motor::Motor() { RegistraConstrucciones(*this); }
 
 void Motor::RegistraConstruccion(std::string_view tag, Construccion f) {
   for (Registro& r : construcciones_)
