@@ -1,0 +1,193 @@
+#include "worksheet/ajustes.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "tests/typeset/canvas_registro.h"
+#include "typeset/motor.h"
+
+namespace ss {
+namespace {
+
+// The main window texts of a folder of our own, with given defaults.
+struct Textos {
+  explicit Textos(const std::string& lineas = "") {
+    QDir(dir.path()).mkpath(QStringLiteral("lang"));
+    QFile f(dir.path() + QStringLiteral("/lang/ENG_WIN_MAI.lmo"));
+    f.open(QIODevice::WriteOnly);
+    f.write(QByteArray::fromStdString(lineas));
+    f.close();
+    textos = std::make_unique<TextosVentana>(dir.path().toStdString(), "MAI");
+  }
+  QTemporaryDir dir;
+  std::unique_ptr<TextosVentana> textos;
+};
+
+TEST(Ajustes, DefaultsWithAnEmptyStore) {
+  AlmacenMemoria vacio;
+  Textos t;
+  const Ajustes a = LeeAjustes(vacio, *t.textos);
+  EXPECT_EQ(a.decimal, ".");
+  EXPECT_EQ(a.lista, ",");
+  EXPECT_EQ(a.division, "\xF7");
+  EXPECT_EQ(a.producto, "\xD7");
+  EXPECT_EQ(a.notacionCientifica, "\xD7" "10");
+  EXPECT_EQ(a.moneda, "$");
+  EXPECT_EQ(a.monedaPlural, "dollars");
+  EXPECT_EQ(a.intervaloAbre + a.intervaloCierra, "()");
+  EXPECT_EQ(a.solpos, 3);
+  EXPECT_EQ(a.pagpos, 11);
+  EXPECT_EQ(a.procol, 16777215);
+  EXPECT_EQ(a.prosuf, ")");
+  EXPECT_TRUE(a.ordena);
+  EXPECT_TRUE(a.mostrarPanelInicio);
+  EXPECT_FALSE(a.botonesEdicion);
+  EXPECT_EQ(a.signosEspejo[0], -1);
+  EXPECT_EQ(a.signosLente[0], -1);
+  EXPECT_EQ(a.signosLente[1], 1);
+  EXPECT_EQ(a.recientesArchivo.size(), 9);
+}
+
+TEST(Ajustes, TheLanguageFileGivesDefaultsTheStoreOverrides) {
+  Textos t(
+      "[DefaultDecimalSeparator]=,\r\n[DefaultListSeparator]=;\r\n[DefaultCurrencySYMBOL]=\xE2\x82\xAC\r\n"
+      "[DefaultCurrencyNameS]=euro\r\n[DefaultCurrencyNameP]=\r\n[GeomeOptiMirrol_POS_IMG]=1\r\n");
+  AlmacenMemoria al;
+  Ajustes a = LeeAjustes(al, *t.textos);
+  EXPECT_EQ(a.decimal, ",");
+  EXPECT_EQ(a.lista, ";");
+  EXPECT_EQ(a.moneda, "\x80");  // the euro sign, one byte
+  EXPECT_EQ(a.monedaNombre, "euro");
+  EXPECT_EQ(a.monedaPlural, "dollars");  // an empty default keeps the built-in value
+  EXPECT_EQ(a.signosEspejo[1], 1);
+  al.Escribe("SEPA", "DEC", "'");
+  al.Escribe("OPT_GEO_ESP", "POS_IMG", "-1");
+  a = LeeAjustes(al, *t.textos);
+  EXPECT_EQ(a.decimal, "'");
+  EXPECT_EQ(a.signosEspejo[1], -1);
+}
+
+TEST(Ajustes, StoredValuesAndTheirRules) {
+  struct Case {
+    const char* seccion;
+    const char* clave;
+    const char* valor;
+    std::function<void(const Ajustes&)> comprueba;
+  } cases[] = {
+      {"Wizard", "Solpos", "", [](const Ajustes& a) { EXPECT_EQ(a.solpos, 1); }},
+      {"Wizard", "Solpos", "2", [](const Ajustes& a) { EXPECT_EQ(a.solpos, 2); }},
+      {"Wizard", "Procol", "0", [](const Ajustes& a) { EXPECT_EQ(a.procol, 16777215); }},
+      {"Wizard", "Procol", "255", [](const Ajustes& a) { EXPECT_EQ(a.procol, 255); }},
+      {"INTERV", "LEFT_OPEN", "]",
+       [](const Ajustes& a) { EXPECT_EQ(a.intervaloAbre + a.intervaloCierra, "]["); }},
+      {"INTERV", "LEFT_OPEN", "[",
+       [](const Ajustes& a) { EXPECT_EQ(a.intervaloAbre + a.intervaloCierra, "()"); }},
+      {"Wizard", "Ordena", "N", [](const Ajustes& a) { EXPECT_FALSE(a.ordena); }},
+      {"INI_WIN", "SHOW", "0", [](const Ajustes& a) { EXPECT_FALSE(a.mostrarPanelInicio); }},
+      {"Ver", "EdicBotones", "S", [](const Ajustes& a) { EXPECT_TRUE(a.botonesEdicion); }},
+      {"DIVISION", "PRIMARY", ":", [](const Ajustes& a) { EXPECT_EQ(a.division, ":"); }},
+  };
+  Textos t;
+  for (const auto& c : cases) {
+    AlmacenMemoria al;
+    al.Escribe(c.seccion, c.clave, c.valor);
+    SCOPED_TRACE(std::string(c.seccion) + "/" + c.clave + "=" + c.valor);
+    c.comprueba(LeeAjustes(al, *t.textos));
+  }
+}
+
+TEST(Ajustes, TheUserStoreReadsKeysWithoutRegardToCase) {
+  QTemporaryDir dir;
+  const QString ini = dir.path() + QStringLiteral("/settings.ini");
+  {
+    AlmacenUsuario al(ini);
+    al.Escribe("Wizard", "Pagpos", "9");
+    al.Escribe("wizard", "PAGPOS", "10");  // the same key: no second copy
+    al.Escribe("CURRENCY", "SYMBOL", QString::fromUtf8("\xE2\x82\xAC"));
+  }
+  AlmacenUsuario al(ini);
+  EXPECT_EQ(al.Lee("WIZARD", "PagPos").value_or(""), "10");
+  EXPECT_FALSE(al.Lee("Wizard", "Missing"));
+  Textos t;
+  const Ajustes a = LeeAjustes(al, *t.textos);
+  EXPECT_EQ(a.pagpos, 10);
+  EXPECT_EQ(a.moneda, "\x80");
+  QFile f(ini);
+  f.open(QIODevice::ReadOnly);
+  EXPECT_EQ(f.readAll().count("agpos"), 1);
+}
+
+TEST(Ajustes, TheWizardsChoicesRoundTrip) {
+  AlmacenMemoria al;
+  Textos t;
+  Ajustes a = LeeAjustes(al, *t.textos);
+  a.ordena = false;
+  a.solpos = 2;
+  a.pagpos = 9;
+  a.procol = 65280;
+  a.propre = "Problem ";
+  a.prosuf = ".";
+  a.asignatura = "Chemistry \xE9";
+  a.sysedu = "Secondary_Chemistry.sed";
+  a.showavan = true;
+  GuardarAjustesAsistente(a, al);
+  const Ajustes b = LeeAjustes(al, *t.textos);
+  EXPECT_FALSE(b.ordena);
+  EXPECT_EQ(b.solpos, 2);
+  EXPECT_EQ(b.pagpos, 9);
+  EXPECT_EQ(b.procol, 65280);
+  EXPECT_EQ(b.propre, "Problem ");
+  EXPECT_EQ(b.prosuf, ".");
+  EXPECT_EQ(b.asignatura, "Chemistry \xE9");
+  EXPECT_EQ(b.sysedu, "Secondary_Chemistry.sed");
+  EXPECT_TRUE(b.showavan);
+}
+
+TEST(Ajustes, ANewDecimalMarkShowsOnAnOldWorksheetAtItsNextDrawing) {
+  // A problem's text keeps the neutral code; the settings decide at drawing.
+  const std::string problema = "m = 2&.50& g, V = 1&.5&E-3& L";
+  AlmacenMemoria al;
+  Textos t;
+  auto dibuja = [&] {
+    test::CanvasRegistro c;
+    Motor m;
+    m.reemplazos = ReemplazosDe(LeeAjustes(al, *t.textos));
+    m.ComponerTexto(problema, 12, c);
+    return c.Texto();
+  };
+  EXPECT_EQ(dibuja(), "m = 2.50 g, V = 1.5\xD7" "10\x96" "3 L");
+  al.Escribe("SEPA", "DEC", ",");
+  al.Escribe("SCIENT", "NOTAT", "\xC2\xB7" "10");
+  EXPECT_EQ(dibuja(), "m = 2,50 g, V = 1,5\xB7" "10\x96" "3 L");
+}
+
+TEST(SistemasEducativos, SortedByFileWithNoneLast) {
+  Textos t("[NoneSYSEDU]=None\r\n");
+  const QString d = t.dir.path();
+  auto escribe = [&](const QString& nombre, const QByteArray& texto) {
+    QFile f(d + u'/' + nombre);
+    f.open(QIODevice::WriteOnly);
+    f.write(texto);
+  };
+  EXPECT_TRUE(SistemasEducativos(d, *t.textos).empty());  // no system: the menu is hidden
+  escribe("b.sed", "<NOMSYS>Upper secondary</NOMSYS>");
+  escribe("a.sed", "no name here");
+  const auto lista = SistemasEducativos(d, *t.textos);
+  ASSERT_EQ(lista.size(), 3u);
+  EXPECT_EQ(lista[0].fichero, "a.sed");
+  EXPECT_EQ(lista[0].nombre, "a.sed");
+  EXPECT_EQ(lista[1].nombre, "Upper secondary");
+  EXPECT_TRUE(lista[2].fichero.isEmpty());
+  EXPECT_EQ(lista[2].nombre, "<None>");
+
+  AlmacenMemoria al;
+  Ajustes a = LeeAjustes(al, *t.textos);
+  EligeSistema(a, al, "b.sed");
+  EXPECT_EQ(LeeAjustes(al, *t.textos).sysedu, "b.sed");
+}
+
+}  // namespace
+}  // namespace ss
