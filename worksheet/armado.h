@@ -41,4 +41,19 @@ int PaginaDeProblema(const Documento& doc, int pista);
 // blocks, and the line kept free for the page number.
 std::string TextoPagina(const Documento& doc, int pagina);
 
+// Holds the document busy (AppBusy) for the length of a job that lets
+// pending events run. Jobs nest: only the outermost one turns the controls
+// and the wait pointer on and off, so a nested job leaves the outer state.
+class TrabajoOcupado {
+ public:
+  explicit TrabajoOcupado(Sesion& s);
+  ~TrabajoOcupado();
+  TrabajoOcupado(const TrabajoOcupado&) = delete;
+  TrabajoOcupado& operator=(const TrabajoOcupado&) = delete;
+
+ private:
+  Sesion& s_;
+  bool exterior_;
+};
+
 }  // namespace ss

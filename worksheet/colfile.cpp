@@ -1,12 +1,558 @@
-// PLACEHOLDER: being written.
 #include "worksheet/colfile.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cmath>
+#include <cstdint>
+#include <optional>
+#include <system_error>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "problems/texto.h"
+#include "worksheet/armado.h"
 
 namespace ss {
 
-bool GuardarColeccion(Sesion&) { return false; }
-bool CargarColeccion(Sesion&) { return false; }
-std::string TextoColeccion(const Coleccion&) { return {}; }
-std::vector<Problema> LeerProparam(std::string_view) { return {}; }
-std::vector<std::string> ImagenesDelTexto(std::string_view) { return {}; }
+namespace {
+
+constexpr std::size_t kFila = 102;         // one row of the problem table, CR LF included
+constexpr std::size_t kModulo = 80;        // module column of a row
+constexpr std::size_t kComando = 16;       // command columns of a row
+constexpr std::size_t kEntradaImagen = 48; // one entry of the picture directory
+constexpr std::size_t kNombreImagen = 32;
+constexpr std::size_t kCampoNumero = 8;
+constexpr std::string_view kSinImagenes = "#BINDIR(00000000#BINDIR)";
+constexpr std::string_view kSalto = "\n";  // a line break inside a box text
+
+// The classic number-to-text of a signed integer: one blank before a number
+// that is not negative.
+std::string Str(int32_t n) {
+  return n < 0 ? std::to_string(n) : " " + std::to_string(n);
+}
+
+// Left-aligned, blank-padded, cut to `ancho`.
+std::string Campo(std::string_view texto, std::size_t ancho) {
+  std::string c(texto.substr(0, std::min(texto.size(), ancho)));
+  c.resize(ancho, ' ');
+  return c;
+}
+
+std::string_view Tras(std::string_view texto, std::size_t n) {
+  return n >= texto.size() ? std::string_view() : texto.substr(n);
+}
+
+// A header number: rounded half to even; a value past the 32-bit range is
+// held at its end, so a damaged file cannot stop the reading.
+int32_t Entero(double v) {
+  if (std::isnan(v)) return 0;
+  if (v >= 2147483647.0) return INT32_MAX;
+  if (v <= -2147483648.0) return INT32_MIN;
+  return static_cast<int32_t>(std::nearbyint(v));
+}
+
+// A 1-based position read from the file, when it lies within [lo, hi].
+std::optional<int64_t> Posicion(double v, int64_t lo, int64_t hi) {
+  if (!std::isfinite(v)) return std::nullopt;
+  const double r = std::nearbyint(v);
+  if (r < static_cast<double>(lo) || r > static_cast<double>(hi)) return std::nullopt;
+  return static_cast<int64_t>(r);
+}
+
+QString RutaDeTexto(std::string_view cp1252) {
+  return QString::fromUtf8(Cp1252ToUtf8(cp1252));
+}
+
+std::string TextoDeRuta(const QString& ruta) {
+  return Utf8ToCp1252(ruta.toUtf8().toStdString());
+}
+
+// Holds the busy guard for the length of a job and gives back what it found.
+class Ocupacion {
+ public:
+  explicit Ocupacion(Documento& doc) : doc_(doc), antes_(doc.AppBusy) { ++doc_.AppBusy; }
+  ~Ocupacion() { doc_.AppBusy = antes_; }
+  Ocupacion(const Ocupacion&) = delete;
+  Ocupacion& operator=(const Ocupacion&) = delete;
+
+ private:
+  Documento& doc_;
+  int antes_;
+};
+
+// ---- writing -------------------------------------------------------------
+
+struct FalloGuardado {
+  int numero = 0;
+  std::string descripcion;
+};
+
+FalloGuardado FalloDeErrno(int e) {
+  int numero = 57;
+  std::string clasico = "Device I/O error";
+  if (e == EACCES || e == EPERM || e == EROFS) {
+    numero = 75;
+    clasico = "Path/File access error";
+  } else if (e == ENOSPC || e == EDQUOT) {
+    numero = 61;
+    clasico = "Disk full";
+  }
+  return {numero, clasico + ": " + std::system_category().message(e)};
+}
+
+bool EscribeTodo(int fd, std::string_view datos) {
+  while (!datos.empty()) {
+    const ssize_t n = ::write(fd, datos.data(), datos.size());
+    if (n < 0) {
+      if (errno == EINTR) continue;
+      return false;
+    }
+    if (n == 0) {
+      errno = EIO;
+      return false;
+    }
+    datos.remove_prefix(static_cast<std::size_t>(n));
+  }
+  return true;
+}
+
+// The new file is written whole under the path with "x" added and then renamed
+// over the path: the old file stays untouched until the new one is complete.
+std::optional<FalloGuardado> EscribeColeccion(const QString& ruta, std::string_view texto,
+                                              std::string_view directorio,
+                                              std::string_view datos) {
+  if (ruta.isEmpty()) return FalloDeErrno(ENOENT);
+  const QByteArray destino = QFile::encodeName(ruta);
+  const QByteArray temporal = QFile::encodeName(ruta + QStringLiteral("x"));
+
+  // A write-protected worksheet is not replaced behind its owner's back.
+  struct stat st {};
+  if (::stat(destino.constData(), &st) == 0 && !S_ISDIR(st.st_mode) &&
+      ::access(destino.constData(), W_OK) != 0 && (errno == EACCES || errno == EROFS))
+    return FalloDeErrno(errno);
+
+  const int fd = ::open(temporal.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW,
+                        0666);
+  if (fd < 0) return FalloDeErrno(errno);
+  auto abandona = [&](int e) {
+    ::close(fd);
+    ::unlink(temporal.constData());
+    return FalloDeErrno(e);
+  };
+  if (!EscribeTodo(fd, texto) || !EscribeTodo(fd, directorio) || !EscribeTodo(fd, datos))
+    return abandona(errno);
+  if (::fsync(fd) != 0 && errno != EINVAL) return abandona(errno);
+  if (::close(fd) != 0) {
+    const int e = errno;
+    ::unlink(temporal.constData());
+    return FalloDeErrno(e);
+  }
+  if (::rename(temporal.constData(), destino.constData()) != 0) {
+    const int e = errno;
+    ::unlink(temporal.constData());
+    return FalloDeErrno(e);
+  }
+  return std::nullopt;
+}
+
+std::optional<std::string> LeeFichero(const QString& ruta) {
+  if (!QFileInfo(ruta).isFile()) return std::nullopt;  // no folders, no pipes
+  QFile f(ruta);
+  if (!f.open(QIODevice::ReadOnly)) return std::nullopt;
+  const QByteArray bytes = f.readAll();
+  if (f.error() != QFileDevice::NoError) return std::nullopt;
+  return std::string(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+}
+
+// ---- reading -------------------------------------------------------------
+
+// Cuts the next value off the header: the text before `cierre`, less its
+// opening tag of `apertura` characters; the header goes on behind the tag.
+std::optional<std::string_view> Corta(std::string_view& cab, std::string_view cierre,
+                                      std::size_t apertura) {
+  const std::size_t p = cab.find(cierre);
+  if (p == std::string_view::npos) return std::nullopt;
+  const std::string_view valor = Tras(cab.substr(0, p), apertura);
+  cab = cab.substr(p + cierre.size());
+  return valor;
+}
+
+bool SoloCifras(std::string_view t) {
+  for (char c : t)
+    if (c < '0' || c > '9') return false;
+  return true;
+}
+
+int16_t Cifras(std::string_view t) {
+  int v = 0;
+  for (char c : t) v = v * 10 + (c - '0');
+  return static_cast<int16_t>(v);
+}
+
+// A picture name from a file may only name a plain file of the scratch folder.
+bool NombreSeguro(std::string_view nombre) {
+  if (nombre.empty() || nombre.front() == '.') return false;
+  for (char c : nombre) {
+    const auto u = static_cast<unsigned char>(c);
+    if (c == '/' || c == '\\' || u < 0x20 || u == 0x7F) return false;
+  }
+  return true;
+}
+
+// Writes a picture under a new name in the scratch folder; never follows a
+// link and never replaces what is there.
+void EscribeImagen(const QString& carpeta, const QString& nombre, std::string_view bytes) {
+  const QByteArray ruta = QFile::encodeName(carpeta + QLatin1Char('/') + nombre);
+  const int fd = ::open(ruta.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
+  if (fd < 0) return;
+  const bool ok = EscribeTodo(fd, bytes);
+  if (::close(fd) != 0 || !ok) ::unlink(ruta.constData());
+}
+
+void DesempaquetaImagenes(const Sesion& s, std::string_view directorio, std::string_view datos) {
+  const std::size_t n = directorio.size() / kEntradaImagen;
+  for (std::size_t k = 0; k < n; ++k) {
+    const std::string_view entrada = directorio.substr(0, kEntradaImagen);
+    const std::string_view nombre = Trim(entrada.substr(0, kNombreImagen));
+    const double v = Val(Mid(entrada, 41, kCampoNumero));
+    std::size_t tam = 0;
+    if (v > 0) tam = v >= static_cast<double>(datos.size()) ? datos.size()
+                                                            : static_cast<std::size_t>(v);
+    if (NombreSeguro(nombre)) {
+      const QString q = RutaDeTexto(nombre);
+      if (BuscaEnCarpeta(s.carpetas.Img(), q).isEmpty() &&
+          BuscaEnCarpeta(s.carpetas.temporal, q).isEmpty() &&
+          CreaCarpetaTemporal(s.carpetas.temporal))
+        EscribeImagen(s.carpetas.temporal, q, datos.substr(0, tam));
+    }
+    directorio.remove_prefix(kEntradaImagen);
+    datos.remove_prefix(tam);
+  }
+}
+
+}  // namespace
+
+// ---- the text of a file ----------------------------------------------------
+
+std::string TextoColeccion(const Coleccion& col) {
+  const ColeccionCab& c = col.cab;
+  std::string t;
+  t.reserve(1024 + col.problemas.size() * (kFila + 64));
+  t += "#CABECERA(";
+  t += "#PROPARAM(";
+  for (std::size_t i = 0; i < col.problemas.size(); ++i) {
+    const Problema& p = col.problemas[i];
+    t += Campo(p.Modulo, kModulo);
+    t += ComandoProblema(p);
+    t += ZeroPadCut(static_cast<long long>(c.PROINI) + static_cast<long long>(i), 4);
+    t += "\r\n";
+  }
+  t += "#PROPARAM)";
+  auto opcional = [&](std::string_view tag, const std::string& valor) {
+    if (Trim(valor).empty()) return;
+    t += "#";
+    t += tag;
+    t += "(";
+    t += valor;
+    t += "#";
+    t += tag;
+    t += ")";
+  };
+  auto texto = [&](std::string_view tag, std::string_view valor) {
+    t += "#";
+    t += tag;
+    t += "(";
+    t += valor;
+    t += "#";
+    t += tag;
+    t += ")";
+  };
+  opcional("PRETIT", c.PRETIT);
+  texto("TITULO", c.TITULO);
+  opcional("POSTI1", c.POSTI1);
+  opcional("POSTI2", c.POSTI2);
+  texto("POSNUMPAG", Str(c.POSNUMPAG));
+  texto("COLRESPRO", Str(c.COLRESPRO));
+  texto("ORDENA", c.ORDENA != 0 ? "1" : "0");
+  texto("PAGINI", Str(c.PAGINI));
+  texto("POSSOL", Str(c.POSSOL));
+  texto("PROPRE", c.PROPRE);
+  texto("PROSUF", c.PROSUF);
+  texto("PROINI", Str(c.PROINI));
+  t += kSinImagenes;
+  t += "#CABECERA)";
+  for (std::size_t i = 0; i < col.problemas.size(); ++i) {
+    const Problema& p = col.problemas[i];
+    const std::string nnn = ZeroPadCut(1000 + static_cast<long long>(i) + 1, 3);
+    t += "#PRO" + nnn + "(";
+    texto("ENU", p.Enunciado);
+    texto("SOL", p.Solucion);
+    t += "#PRO" + nnn + ")";
+  }
+  return t;
+}
+
+std::vector<std::string> ImagenesDelTexto(std::string_view texto) {
+  // Found in the upper-cased copy, cut from the text itself at the same place.
+  const std::string alto = UCase(texto);
+  std::vector<std::string> nombres;
+  std::size_t desde = 99;  // the search starts at the hundredth character
+  while (desde < alto.size()) {
+    const std::size_t hit = alto.find("#IMG(", desde);
+    if (hit == std::string::npos) break;
+    const std::size_t cierre = alto.find("#IMG)", hit + 6);
+    if (cierre == std::string::npos) break;
+    const std::string_view arg = texto.substr(hit + 5, cierre - (hit + 5));
+    const std::size_t q1 = arg.find('\'');
+    const std::size_t q2 = q1 == std::string_view::npos ? q1 : arg.find('\'', q1 + 1);
+    if (q2 != std::string_view::npos && q2 > q1 + 1) {
+      std::string nombre(arg.substr(q1 + 1, q2 - q1 - 1));
+      bool visto = false;
+      for (const std::string& n : nombres) visto = visto || n == nombre;
+      if (!visto) nombres.push_back(std::move(nombre));
+    }
+    desde = hit + 10;
+  }
+  return nombres;
+}
+
+std::vector<Problema> LeerProparam(std::string_view tabla) {
+  const std::size_t filas = tabla.size() / kFila;
+  if (filas == 0 || filas * kFila != tabla.size() || filas > static_cast<std::size_t>(kMaxProblemas))
+    return {};
+  std::vector<Problema> lista;
+  lista.reserve(filas);
+  for (std::size_t i = 0; i < filas; ++i) {
+    const std::string_view fila = tabla.substr(i * kFila, kFila);
+    const std::string_view cmd = fila.substr(kModulo, kComando);
+    if (!SoloCifras(cmd)) return {};
+    Problema p;
+    p.Modulo = std::string(Trim(fila.substr(0, kModulo)));
+    p.Rutina = Cifras(cmd.substr(0, 3));
+    p.Semilla = Cifras(cmd.substr(3, 3));
+    p.NumVariante = Cifras(cmd.substr(6, 4));
+    p.Cantidad = Cifras(cmd.substr(10, 2));
+    p.Total = Cifras(cmd.substr(12, 2));
+    p.Orden = Cifras(cmd.substr(14, 2));
+    lista.push_back(std::move(p));
+  }
+  return lista;
+}
+
+// ---- save ---------------------------------------------------------------------
+
+bool GuardarColeccion(Sesion& s) {
+  Documento& doc = s.doc;
+  Ocupacion ocupado(doc);
+  std::string texto = TextoColeccion(doc.col);
+
+  std::string directorio;
+  std::string datos;
+  const std::vector<std::string> nombres = ImagenesDelTexto(texto);
+  if (!nombres.empty()) {
+    const std::size_t d = texto.size() + 1;
+    std::size_t p = texto.size() + kEntradaImagen * nombres.size() + 1;
+    for (const std::string& nombre : nombres) {
+      const QString q = RutaDeTexto(nombre);
+      QString fichero = BuscaEnCarpeta(s.carpetas.Img(), q);
+      if (fichero.isEmpty()) fichero = BuscaEnCarpeta(s.carpetas.temporal, q);
+      std::optional<std::string> bytes;
+      if (!fichero.isEmpty()) bytes = LeeFichero(fichero);
+      if (!bytes) {
+        s.plataforma.Critico(nombre + std::string(kSalto) + s.textos.GetL_win("CantSaveImage"));
+        return false;
+      }
+      directorio += Campo(nombre, kNombreImagen);
+      directorio += Campo(std::to_string(p), kCampoNumero);
+      directorio += Campo(std::to_string(bytes->size()), kCampoNumero);
+      datos += *bytes;
+      p += bytes->size();
+    }
+    const std::size_t at = texto.find(kSinImagenes);
+    if (at != std::string::npos)
+      texto.replace(at, kSinImagenes.size(),
+                    "#BINDIR(" + Campo(std::to_string(d), kCampoNumero) + "#BINDIR)");
+  }
+
+  std::optional<FalloGuardado> fallo = EscribeColeccion(doc.ruta, texto, directorio, datos);
+  s.plataforma.DejaCorrer();
+  if (!fallo && !QFileInfo::exists(doc.ruta))
+    fallo = FalloGuardado{70, "Permission denied: " + std::system_category().message(ENOENT)};
+  if (!fallo) {
+    doc.Modificada = false;
+    return true;
+  }
+
+  const std::string ruta = TextoDeRuta(doc.ruta);
+  if (fallo->numero == 75) {
+    s.plataforma.Critico(s.textos.GetL_win("ErrorWriteProtectFile") + std::string(kSalto) + ruta +
+                         std::string(kSalto) + std::string(kSalto) +
+                         s.textos.GetL_win("SelectOtherFileName"));
+    s.plataforma.GuardarComo();
+  } else {
+    s.plataforma.Critico(s.textos.GetL_win("CantSaveFile") + std::string(kSalto) + ruta +
+                         std::string(kSalto) + std::string(kSalto) + "Error = " +
+                         std::to_string(fallo->numero) + std::string(kSalto) + fallo->descripcion);
+  }
+  return false;
+}
+
+// ---- load ---------------------------------------------------------------------
+
+bool CargarColeccion(Sesion& s) {
+  Documento& doc = s.doc;
+  Plataforma& pl = s.plataforma;
+  Ocupacion ocupado(doc);
+  const QString ruta = doc.ruta;
+  bool controlesApagados = false;
+
+  // Every damaged file ends here. The header read so far stays; the path is
+  // dropped unless the caller says the file was recognised far enough.
+  auto invalido = [&](bool mantenRuta) {
+    pl.CursorEspera(false);
+    if (controlesApagados) pl.Ocupado(false);
+    pl.Aviso(s.textos.GetL_win("InvalidFile"));
+    if (!mantenRuta) doc.ruta.clear();
+    if (doc.col.cab.NPROB == 0 || doc.col.problemas.empty()) NoColeccion(s);
+    return false;
+  };
+
+  // Only a worksheet file is read.
+  if (ruta.right(4).toUpper() != QLatin1String(".COL")) return invalido(false);
+
+  // The whole file.
+  pl.DejaCorrer();
+  pl.CursorEspera(true);
+  const std::optional<std::string> leido = LeeFichero(ruta);
+  if (!leido) return invalido(false);
+  const std::string_view fichero = *leido;
+
+  // A header must close.
+  const std::size_t finCab = fichero.find("#CABECERA)");
+  if (finCab == std::string_view::npos) return invalido(false);
+
+  // The window stays still while the file is read.
+  pl.Ocupado(true);
+  controlesApagados = true;
+
+  // The picture directory, if the first "#BINDIR(" names one inside the file.
+  std::string_view directorio;
+  std::string_view datos;
+  bool hayDirectorio = false;
+  std::string binDir;
+  const int64_t largo = static_cast<int64_t>(fichero.size());
+  if (const std::size_t b = fichero.find("#BINDIR("); b != std::string_view::npos) {
+    binDir = std::string(Mid(fichero, b + 9, kCampoNumero));
+    if (const auto d = Posicion(Val(binDir), 1, largo)) {
+      const std::string_view primera = Mid(fichero, static_cast<std::size_t>(*d) + 32, kCampoNumero);
+      if (const auto f = Posicion(Val(primera), *d + 1, largo + 1)) {
+        directorio = fichero.substr(static_cast<std::size_t>(*d - 1),
+                                    static_cast<std::size_t>(*f - *d));
+        datos = Tras(fichero, static_cast<std::size_t>(*f - 1));
+        hayDirectorio = true;
+      }
+    }
+  }
+
+  // Header and problem blocks.
+  std::string_view cab = Tras(fichero.substr(0, finCab), 10);
+  std::string_view resto = fichero.substr(finCab + 10);
+
+  // The header, tag by tag, in the order they are written.
+  ColeccionCab& c = doc.col.cab;
+  const auto tabla = Corta(cab, "#PROPARAM)", 10);
+  if (!tabla) return invalido(false);
+  if (const auto v = Corta(cab, "#PRETIT)", 8))
+    c.PRETIT = std::string(*v);
+  else
+    c.PRETIT.clear();
+  if (const auto v = Corta(cab, "#TITULO)", 8))
+    c.TITULO = std::string(*v);
+  else
+    return invalido(false);
+  if (const auto v = Corta(cab, "#POSTI1)", 8))
+    c.POSTI1 = std::string(*v);
+  else
+    c.POSTI1.clear();
+  if (const auto v = Corta(cab, "#POSTI2)", 8))
+    c.POSTI2 = std::string(*v);
+  else
+    c.POSTI2.clear();
+  if (const auto v = Corta(cab, "#POSNUMPAG)", 11))
+    c.POSNUMPAG = Entero(Val(*v));
+  else
+    return invalido(false);
+  if (const auto v = Corta(cab, "#COLRESPRO)", 11))
+    c.COLRESPRO = Entero(Val(*v));
+  else
+    return invalido(true);
+  if (const auto v = Corta(cab, "#ORDENA)", 8))
+    c.ORDENA = Val(*v) == 1 ? kVerdadero : int16_t{0};
+  else
+    return invalido(false);
+  if (const auto v = Corta(cab, "#PAGINI)", 8))
+    c.PAGINI = Entero(Val(*v));
+  else
+    return invalido(false);
+  if (const auto v = Corta(cab, "#POSSOL)", 8))
+    c.POSSOL = Entero(Val(*v));
+  else
+    return invalido(false);
+  if (const auto v = Corta(cab, "#PROPRE)", 8))
+    c.PROPRE = std::string(*v);
+  else
+    return invalido(false);
+  if (const auto v = Corta(cab, "#PROSUF)", 8))
+    c.PROSUF = std::string(*v);
+  else
+    return invalido(false);
+  if (const auto v = Corta(cab, "#PROINI)", 8))
+    c.PROINI = Entero(Val(*v));
+  else
+    return invalido(false);
+  if (const auto v = Corta(cab, "#BINDIR)", 8)) binDir = std::string(Trim(*v));
+
+  // The problem table; a worksheet without problems is no worksheet.
+  doc.col.problemas = LeerProparam(*tabla);
+  c.NPROB = static_cast<int32_t>(doc.col.problemas.size());
+  if (c.NPROB == 0) return invalido(false);
+
+  // Statement and solution of each problem, block by block.
+  for (std::size_t i = 0; i < doc.col.problemas.size(); ++i) {
+    const std::string cierre = "#PRO" + ZeroPadCut(1000 + static_cast<long long>(i) + 1, 3) + ")";
+    const std::size_t p = resto.find(cierre);
+    if (p == std::string_view::npos) return invalido(true);
+    const std::string_view bloque = Tras(resto.substr(0, p), 8);
+    resto = resto.substr(p + cierre.size());
+    std::string_view sol;
+    if (const std::size_t q = bloque.find("#SOL("); q != std::string_view::npos) {
+      sol = bloque.substr(q + 5);
+      sol = sol.substr(0, sol.size() >= 5 ? sol.size() - 5 : 0);
+    }
+    const std::size_t largoEnu = bloque.size() >= sol.size() + 15 ? bloque.size() - sol.size() - 15 : 0;
+    Problema& pr = doc.col.problemas[i];
+    pr.Enunciado = std::string(Tras(bloque.substr(0, largoEnu), 5));
+    pr.Solucion = std::string(sol);
+  }
+
+  // Pictures the folders do not have yet.
+  if (hayDirectorio && Val(binDir) != 0) DesempaquetaImagenes(s, directorio, datos);
+
+  // The pages.
+  ArmarBloques(s, 1);
+  doc.Modificada = false;
+
+  // The window shows the file.
+  pl.TituloVentana(TituloApp() + QStringLiteral("  -  ") + QFileInfo(ruta).fileName());
+  pl.Reciente(ruta);
+  pl.CursorEspera(false);
+  pl.Ocupado(false);
+  pl.EstadoDocumento(true);
+  return true;
+}
 
 }  // namespace ss

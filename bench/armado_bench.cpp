@@ -1,0 +1,108 @@
+// The cost of assembling a worksheet: making the texts of 500 problems,
+// wrapping them into blocks and finding their pages; and the re-pagination
+// that follows a change of one problem.
+#include <benchmark/benchmark.h>
+
+#include <QGuiApplication>
+
+#include "problems/idioma.h"
+#include "typeset/canvas_qt.h"
+#include "typeset/motor.h"
+#include "worksheet/armado.h"
+
+namespace {
+
+// Everything a worksheet command works with, quiet.
+struct Entorno {
+  ss::Documento doc;
+  ss::PlataformaMuda plataforma;
+  ss::Mensajes mensajes{SS_SOURCE_DIR};
+  ss::GenContext gen{&mensajes, ss::Aleatorio(2024)};
+  ss::Motor motor;
+  ss::CanvasQt oculta{nullptr};
+  ss::TextosVentana textos{SS_SOURCE_DIR, "MAI"};
+  ss::Sesion s{doc, plataforma, gen, motor, oculta, textos, ss::Carpetas{}};
+
+  // Problems of the gases, formulas and solutions module (500 unless told),
+  // solutions after their problems, page numbers at the foot.
+  explicit Entorno(int problemas = 500) {
+    ss::ColeccionCab& cab = doc.col.cab;
+    cab.POSSOL = 1;
+    cab.POSNUMPAG = 9;
+    cab.ORDENA = ss::kVerdadero;
+    cab.PROSUF = ")";
+    cab.TITULO = "Problems of Chemistry";
+    ss::Arbol arbol;
+    ss::ArbolItem raiz;
+    raiz.Tipo = 6;
+    arbol.Agrega(raiz);
+    for (int rutina = 1; rutina <= 20; ++rutina) {
+      ss::ArbolItem f;
+      f.Nivel = 2;
+      f.Tipo = 3;
+      f.ModuloFijo = "ANEU_QUIM_DIS";
+      f.Rutina = static_cast<int16_t>(rutina);
+      f.Marcado = true;
+      f.Cantidad1 = static_cast<int16_t>(problemas / 20);
+      f.Cantidad2 = 6;
+      arbol.Agrega(f);
+    }
+    ss::Arbol_to_Var(arbol, doc.col, gen.rnd);
+  }
+};
+
+void BM_CrearColeccion500(benchmark::State& state) {
+  Entorno e;
+  const std::vector<ss::Problema> recetas = e.doc.col.problemas;
+  for (auto _ : state) {
+    e.doc.col.problemas = recetas;
+    ss::CrearColeccion(e.s, 1);
+    benchmark::DoNotOptimize(e.doc.numPaginas);
+  }
+  state.counters["problems"] = static_cast<double>(e.doc.col.problemas.size());
+  state.counters["blocks"] = static_cast<double>(e.doc.bloques.size());
+  state.counters["pages"] = e.doc.numPaginas;
+}
+BENCHMARK(BM_CrearColeccion500)->Unit(benchmark::kMillisecond);
+
+// ArmarBloques (with its pagination) of the made worksheet, alone; the time
+// a page should stay the same whatever the length of the worksheet.
+void BM_ArmarBloques(benchmark::State& state) {
+  Entorno e(static_cast<int>(state.range(0)));
+  ss::CrearColeccion(e.s, 1);
+  for (auto _ : state) {
+    ss::ArmarBloques(e.s, 0);
+    benchmark::DoNotOptimize(e.doc.numPaginas);
+  }
+  state.counters["pages"] = e.doc.numPaginas;
+  state.counters["per_page"] = benchmark::Counter(
+      e.doc.numPaginas, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+BENCHMARK(BM_ArmarBloques)->Arg(100)->Arg(250)->Arg(500)->Unit(benchmark::kMillisecond);
+
+// One problem in the middle re-made with new numbers: its text, then the
+// blocks and pages of the whole worksheet again, as after an edit.
+void BM_RecrearUnProblema500(benchmark::State& state) {
+  Entorno e;
+  ss::CrearColeccion(e.s, 1);
+  int variante = 0;
+  for (auto _ : state) {
+    ss::Problema& p = e.doc.col.problemas[250];
+    p.NumVariante = static_cast<int16_t>(variante++ % 9000);
+    ss::RecrearProblema(e.s, p, 251, true);
+    benchmark::DoNotOptimize(e.doc.numPaginas);
+  }
+  state.counters["pages"] = e.doc.numPaginas;
+}
+BENCHMARK(BM_RecrearUnProblema500)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QGuiApplication app(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  benchmark::Shutdown();
+  return 0;
+}
