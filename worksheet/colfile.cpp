@@ -466,54 +466,43 @@ bool CargarColeccion(Sesion& s) {
   ColeccionCab& c = doc.col.cab;
   const auto tabla = Corta(cab, "#PROPARAM)", 10);
   if (!tabla) return invalido(false);
-  if (const auto v = Corta(cab, "#PRETIT)", 8))
-    c.PRETIT = std::string(*v);
-  else
-    c.PRETIT.clear();
-  if (const auto v = Corta(cab, "#TITULO)", 8))
-    c.TITULO = std::string(*v);
-  else
-    return invalido(false);
-  if (const auto v = Corta(cab, "#POSTI1)", 8))
-    c.POSTI1 = std::string(*v);
-  else
-    c.POSTI1.clear();
-  if (const auto v = Corta(cab, "#POSTI2)", 8))
-    c.POSTI2 = std::string(*v);
-  else
-    c.POSTI2.clear();
-  if (const auto v = Corta(cab, "#POSNUMPAG)", 11))
-    c.POSNUMPAG = Entero(Val(*v));
-  else
-    return invalido(false);
-  if (const auto v = Corta(cab, "#COLRESPRO)", 11))
-    c.COLRESPRO = Entero(Val(*v));
-  else
-    return invalido(true);
-  if (const auto v = Corta(cab, "#ORDENA)", 8))
-    c.ORDENA = Val(*v) == 1 ? kVerdadero : int16_t{0};
-  else
-    return invalido(false);
-  if (const auto v = Corta(cab, "#PAGINI)", 8))
-    c.PAGINI = Entero(Val(*v));
-  else
-    return invalido(false);
-  if (const auto v = Corta(cab, "#POSSOL)", 8))
-    c.POSSOL = Entero(Val(*v));
-  else
-    return invalido(false);
-  if (const auto v = Corta(cab, "#PROPRE)", 8))
-    c.PROPRE = std::string(*v);
-  else
-    return invalido(false);
-  if (const auto v = Corta(cab, "#PROSUF)", 8))
-    c.PROSUF = std::string(*v);
-  else
-    return invalido(false);
-  if (const auto v = Corta(cab, "#PROINI)", 8))
-    c.PROINI = Entero(Val(*v));
-  else
-    return invalido(false);
+  // What a missing closing tag does: the field is emptied, or the file is
+  // invalid, with the path kept or not.
+  enum class SiFalta { Vacia, Invalido, InvalidoConRuta };
+  struct Campo {
+    const char* cierre;
+    std::size_t abre;  // the length of the opening tag
+    SiFalta siFalta;
+    void (*pon)(ColeccionCab&, std::string_view);
+  };
+  static constexpr Campo kCampos[] = {
+      {"#PRETIT)", 8, SiFalta::Vacia, [](ColeccionCab& c, std::string_view v) { c.PRETIT = v; }},
+      {"#TITULO)", 8, SiFalta::Invalido, [](ColeccionCab& c, std::string_view v) { c.TITULO = v; }},
+      {"#POSTI1)", 8, SiFalta::Vacia, [](ColeccionCab& c, std::string_view v) { c.POSTI1 = v; }},
+      {"#POSTI2)", 8, SiFalta::Vacia, [](ColeccionCab& c, std::string_view v) { c.POSTI2 = v; }},
+      {"#POSNUMPAG)", 11, SiFalta::Invalido,
+       [](ColeccionCab& c, std::string_view v) { c.POSNUMPAG = Entero(Val(v)); }},
+      {"#COLRESPRO)", 11, SiFalta::InvalidoConRuta,
+       [](ColeccionCab& c, std::string_view v) { c.COLRESPRO = Entero(Val(v)); }},
+      {"#ORDENA)", 8, SiFalta::Invalido,
+       [](ColeccionCab& c, std::string_view v) { c.ORDENA = Val(v) == 1 ? kVerdadero : int16_t{0}; }},
+      {"#PAGINI)", 8, SiFalta::Invalido,
+       [](ColeccionCab& c, std::string_view v) { c.PAGINI = Entero(Val(v)); }},
+      {"#POSSOL)", 8, SiFalta::Invalido,
+       [](ColeccionCab& c, std::string_view v) { c.POSSOL = Entero(Val(v)); }},
+      {"#PROPRE)", 8, SiFalta::Invalido, [](ColeccionCab& c, std::string_view v) { c.PROPRE = v; }},
+      {"#PROSUF)", 8, SiFalta::Invalido, [](ColeccionCab& c, std::string_view v) { c.PROSUF = v; }},
+      {"#PROINI)", 8, SiFalta::Invalido,
+       [](ColeccionCab& c, std::string_view v) { c.PROINI = Entero(Val(v)); }},
+  };
+  for (const Campo& k : kCampos) {
+    if (const auto v = Corta(cab, k.cierre, k.abre))
+      k.pon(c, *v);
+    else if (k.siFalta == SiFalta::Vacia)
+      k.pon(c, {});
+    else
+      return invalido(k.siFalta == SiFalta::InvalidoConRuta);
+  }
   if (const auto v = Corta(cab, "#BINDIR)", 8)) binDir = std::string(Trim(*v));
 
   // The problem table; a worksheet without problems is no worksheet.
