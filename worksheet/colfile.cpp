@@ -252,16 +252,6 @@ std::string TextoColeccion(const Coleccion& col) {
     t += "\r\n";
   }
   t += "#PROPARAM)";
-  auto opcional = [&](std::string_view tag, const std::string& valor) {
-    if (Trim(valor).empty()) return;
-    t += "#";
-    t += tag;
-    t += "(";
-    t += valor;
-    t += "#";
-    t += tag;
-    t += ")";
-  };
   auto texto = [&](std::string_view tag, std::string_view valor) {
     t += "#";
     t += tag;
@@ -270,6 +260,10 @@ std::string TextoColeccion(const Coleccion& col) {
     t += "#";
     t += tag;
     t += ")";
+  };
+  // An optional line is written only when it holds more than blanks.
+  auto opcional = [&](std::string_view tag, const std::string& valor) {
+    if (!Trim(valor).empty()) texto(tag, valor);
   };
   opcional("PRETIT", c.PRETIT);
   texto("TITULO", c.TITULO);
