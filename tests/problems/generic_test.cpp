@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <sstream>
 #include <stdexcept>
+#include <tuple>
 
 #include "problems/fallos.h"
 #include "problems/idioma.h"
@@ -26,18 +26,14 @@ void GenNormal(GenContext& g) {  // 1
   g.GP_Solution = "items " + std::to_string(g.GP_Items) + " amount " + NumTexto(g.GP_Amount) +
                   " index " + NumTexto(g.GP_Index) + "&LF";
 }
-void GenDivide(GenContext& g) {  // 2: an exercise with a bound
-  if (EntradaCatalogo(g, {"2", "760", "T_Gases", "010", "8"})) return;
-  g.GP_Statement = "partial";  // a fault replaces whatever was made
-  Div(1, 0.0);
+void GenDivide(GenContext& g) {  // 2: an exercise with a bound; a fault replaces what was made
+  if (!EntradaCatalogo(g, {"2", "760", "T_Gases", "010", "8"})) g.GP_Statement = "partial", Div(1, 0.0);
 }
 void GenThrowsStd(GenContext& g) {  // 3: a blank level
-  if (EntradaCatalogo(g, {"", "770", "T_Disoluciones", "005", ""})) return;
-  throw std::out_of_range("table row 12 missing");
+  if (!EntradaCatalogo(g, {"", "770", "T_Disoluciones", "005", ""})) throw std::out_of_range("table row 12 missing");
 }
 void GenThrowsOther(GenContext& g) {  // 4: a topic key without text
-  if (EntradaCatalogo(g, {"3", "770", "T_Missing_topic", "001", ""})) return;
-  throw 42;
+  if (!EntradaCatalogo(g, {"3", "770", "T_Missing_topic", "001", ""})) throw 42;
 }
 void GenNan(GenContext& g) { g.GP_Statement = "The mass is " + std::to_string(std::nan("")) + " g."; }
 void GenSilent(GenContext&) {}
@@ -51,7 +47,15 @@ constexpr Generador kRespaldo[] = {nullptr, nullptr, nullptr, nullptr, nullptr, 
 const ModuloDef kTst{"ANEU_QUIM_TST", "TST", kGen, "ATEM_QUIM_TST", kRespaldo};
 constexpr Generador kGen2[] = {GenNormal};
 const ModuloDef kTwo{"ANEU_QUIM_TWO", "TWO", kGen2, "ATEM_QUIM_TWO", {}};
-const ModuloDef* const kTabla[] = {&kTst, &kTwo};
+// A module whose catalogue entries stand in a table beside its generators: the
+// dispatcher sets each entry, and the bound in generate mode too.
+void GenConTabla(GenContext& g) {
+  g.GP_Statement = "bound " + g.GP_MaxItems + ", items " + std::to_string(ItemsEjercicio(g));
+}
+constexpr Generador kGenTabla[] = {GenConTabla, nullptr};
+constexpr Entrada kEntradas[] = {{"2", "760", "T_Gases", "030", "006"}, {"3", "770", "T_Disoluciones", "010", ""}};
+const ModuloDef kTab{"ANEU_QUIM_TAB", "TAB", kGenTabla, "ATEM_QUIM_TAB", {}, kEntradas};
+const ModuloDef* const kTabla[] = {&kTst, &kTwo, &kTab};
 
 MensajesFijos Completos() {
   return {{"Asig", "Chemistry"}, {"T_Gases", "Gases"}, {"T_Disoluciones", "Solutions"},
@@ -77,34 +81,17 @@ TEST(NormalizaModulo, UpperCasesAndReplacesTheOldNamesAnywhere) {
   for (const auto& c : cases) EXPECT_EQ(NormalizaModulo(c[0]), c[1]) << c[0];
 }
 
-TEST(ParseaComando, ReadsFixedColumnsAndSurvivesBadText) {
-  // Expected: case, generator, SeqA, SeqB, items, amount, index.
-  const char* cases[][2] = {
-      {"0070450120000301", "007 7 45 120 0 3 1"},
-      {"12", "12 12 0 0 0 0 0"},
-      {"", " 0 0 0 0 0 0"},
-      {"abc1x2y3z4w5v6u7", "abc 0 1 0 0 0 0"},  // each column up to its first non-digit
-      {"0021.50.5-3 7+8 ", "002 2 2 0 3 7 8"},  // "1.5" rounds to 2, "0.5-" to 0
-      {"003 2 0 1 2 3 4 ", "003 3 2 0 2 3 4"},
-      {"0012.51.5", "001 1 2 2 0 0 0"},         // halves go to the even integer
-  };
-  for (const auto& [command, expected] : cases) {
-    GenContext g;
-    g.GP_Statement = g.GP_Solution = "old";
-    const int n = ParseaComando(g, command);
-    std::ostringstream got;
-    got << g.GP_Case << ' ' << n << ' ' << g.GP_SeqA << ' ' << g.GP_SeqB << ' ' << g.GP_Items
-        << ' ' << g.GP_Amount << ' ' << g.GP_Index << g.GP_Statement << g.GP_Solution;
-    EXPECT_EQ(got.str(), expected) << command;
-  }
-}
-
 TEST(GeneraProblema, ModulesGeneratorsAndNotices) {
   // Messages: '=' all, '0' none, 's' without the statement key, '+' with S_TST_15.
   // Expected: statement | solution.
   const char* cases[][4] = {
       {"=", "ANEU_QUIM_TST", "0014567890050302", "Variant 7890 of case 001. | items 5 amount 3 index 2&LF"},
       {"=", "okbr_chem_tst", "0010000123000000", "Variant 123 of case 001. | items 0 amount 0 index 0&LF"},
+      // Each column is read up to its first non-digit; halves go to the even integer.
+      {"=", "ANEU_QUIM_TST", "0011.50.5-3 7+8 ", "Variant 0 of case 001. | items 3 amount 7 index 8&LF"},
+      {"=", "ANEU_QUIM_TST", "001 2 2.5 1 2 3 ", "Variant 2 of case 001. | items 1 amount 2 index 3&LF"},
+      {"=", "ANEU_QUIM_TST", "001", "Variant 0 of case 001. | items 0 amount 0 index 0&LF"},
+      {"=", "ANEU_QUIM_TST", "abc1x2y3z4w5v6u7", "<Error in module ATEM__QUIM__TST:. No routine abc>&LF | &LF"},
       {"=", "okbr_chem_xyz", "001", "<ERROR: Cannot re-create the problem.>&LFRequested module="
                                     "okbr__chem__xyz alias ANEU__QUIM__XYZ&LF | <ERROR>&LF"},
       {"=", "OKBR_PHYS_DIN", "001", "<ERROR: Cannot re-create the problem.>&LFRequested module="
@@ -123,6 +110,7 @@ TEST(GeneraProblema, ModulesGeneratorsAndNotices) {
       {"=", "ANEU_QUIM_TST", "0070000000000000", "<Error in module ATEM__QUIM__TST:. No routine 007>&LF | &LF"},
       // Words that merely contain "nan" or "inf" are no broken number.
       {"=", "ANEU_QUIM_TST", "0080000000000000", "Sodium azide NaN_3, infinite infrared nano-world | "},
+      {"=", "ANEU_QUIM_TAB", "0010000000090000", "bound 006, items 6 | "},
   };
   for (const auto& [mensajes, module, command, expected] : cases) {
     MensajesFijos m = Completos();
@@ -198,6 +186,10 @@ TEST(ListaProblemas, ListsEveryWrittenGeneratorWithOneHeadingPerTopic) {
       "ANEU_QUIM_TST:770005 3003000 Chemistry|Throws|&D2 Throws",  // a blank level is a problem
       "ANEU_QUIM_TWO:760000 5000000 Chemistry|Gases|",
       "ANEU_QUIM_TWO:760020 3001000 Chemistry|Second module|&DP Second",
+      "ANEU_QUIM_TAB:760000 5000000 Chemistry|Gases|",
+      "ANEU_QUIM_TAB:760030 2001006 Chemistry|Tabled|&D1 Tabled",
+      "ANEU_QUIM_TAB:770000 5000000 Chemistry|Solutions|",
+      "ANEU_QUIM_TAB:770010 3002000 Chemistry|Not written yet|&D2 Later",  // listed all the same
   };
   ASSERT_EQ(cat.size(), std::size(expected));
   for (std::size_t i = 0; i < cat.size(); ++i) {
@@ -213,7 +205,7 @@ TEST(ListaProblemas, ListsEveryWrittenGeneratorWithOneHeadingPerTopic) {
   // Without a subtopic name a generator is left out; without messages, all are.
   m.Quita("S_TST_1");
   ListaProblemas(kTabla, g, cat);
-  EXPECT_EQ(cat.size(), 6u);
+  EXPECT_EQ(cat.size(), 10u);
   for (const std::string& r : cat) EXPECT_FALSE(r.starts_with("ANEU_QUIM_TST:760020")) << r;
   GenContext sin(nullptr, Aleatorio(1));
   ListaProblemas(kTabla, sin, cat);
@@ -223,80 +215,47 @@ TEST(ListaProblemas, ListsEveryWrittenGeneratorWithOneHeadingPerTopic) {
 TEST(ListaProblemas, AnEducationSystemPlacesGeneratorsPerAdmittedSubject) {
   MensajesFijos m = Completos();
   test::SilaboFijo s({{"Chemistry 1", true}, {"Biology", false}, {"Chemistry 2", true}});
-  s.excluido = 2;  // generator 2 is not part of any subject
+  s.excluido = 2;  // generator 2 of each module is not part of any subject
   GenContext g(&m, Aleatorio(1));
   g.silabo = &s;
   std::vector<std::string> cat;
   ListaProblemas(kTabla, g, cat);
-  // Generators 1, 2 and 3 of TST and 1 of TWO are offered to the two chemistry
+  // Generators 1, 2 and 3 of TST, 1 of TWO and both of TAB are offered to the two chemistry
   // subjects (4 has no topic text); each subject has its own headings.
   std::string llamadas, registros;
   for (const std::string& l : s.llamadas) llamadas += l + " ";
   EXPECT_EQ(llamadas, "1:ANEU_QUIM_TST:1 3:ANEU_QUIM_TST:1 1:ANEU_QUIM_TST:2 3:ANEU_QUIM_TST:2 "
-                      "1:ANEU_QUIM_TST:3 3:ANEU_QUIM_TST:3 1:ANEU_QUIM_TWO:1 3:ANEU_QUIM_TWO:1 ");
+                      "1:ANEU_QUIM_TST:3 3:ANEU_QUIM_TST:3 1:ANEU_QUIM_TWO:1 3:ANEU_QUIM_TWO:1 "
+                      "1:ANEU_QUIM_TAB:1 3:ANEU_QUIM_TAB:1 1:ANEU_QUIM_TAB:2 3:ANEU_QUIM_TAB:2 ");
   // Per record: topic ordinal, subtopic ordinal, the subject's number, level.
   for (const std::string& r : cat)
     registros += Col(r, 15, 6) + Col(r, 31, 1) + Col(r, 246, 1) + " ";
   EXPECT_EQ(registros, "00900015 00900113 00900025 00900123 00900015 00900313 00900025 00900323 "
-                       "00900015 00900113 00900025 00900123 ");
+                       "00900015 00900113 00900025 00900123 "
+                       "00900015 00900112 00900025 00900122 ");
   EXPECT_EQ(Trim(Col(cat[1].substr(14), 152, 80)), "Volume of a gas (Chemistry 1)");
-}
-
-// A module whose catalogue entries stand in a table beside its generators.
-int llamadasConTabla = 0;
-void GenConTabla(GenContext& g) {
-  ++llamadasConTabla;
-  g.GP_Statement = "bound " + g.GP_MaxItems + ", items " + std::to_string(ItemsEjercicio(g));
-}
-constexpr Generador kGenTabla[] = {GenConTabla, nullptr};
-constexpr Entrada kEntradasTabla[] = {{"2", "760", "T_Gases", "030", "006"},
-                                      {"3", "770", "T_Disoluciones", "010", ""}};
-const ModuloDef kConTabla{"ANEU_QUIM_TAB", "TAB", kGenTabla, "ATEM_QUIM_TAB", {}, kEntradasTabla};
-
-TEST(ListaProblemas, ATableOfEntriesStandsForTheGeneratorsInListMode) {
-  MensajesFijos m = Completos();
-  const ModuloDef* const tabla[] = {&kConTabla};
-  GenContext g(&m, Aleatorio(1));
-  std::vector<std::string> cat;
-  llamadasConTabla = 0;
-  ListaProblemas(tabla, g, cat);
-  EXPECT_EQ(llamadasConTabla, 0);
-  ASSERT_EQ(cat.size(), 4u);  // an unwritten generator is listed all the same
-  EXPECT_EQ(Col(cat[1].substr(14), 1, 6) + Col(cat[1].substr(14), 232, 7), "7600302001006");
-  EXPECT_EQ(Col(cat[3].substr(14), 1, 6) + Col(cat[3].substr(14), 232, 7), "7700103002000");
-  std::string st, so;
-  GeneraProblema(tabla, g, "ANEU_QUIM_TAB", "0010000000090000", st, so);
-  EXPECT_EQ(llamadasConTabla, 1);
-  EXPECT_EQ(st, "bound 006, items 6");
 }
 
 // The helpers every generator uses.
 
-TEST(ItemsEjercicio, RaisesTo2LowersTo26ThenToTheGeneratorsBound) {
-  struct Case {
-    int items;
-    const char* max;
-    int expected;
-  } cases[] = {{0, "008", 2},    {1, "008", 2},    {5, "008", 5},    {8, "008", 8},
-               {9, "008", 8},    {30, "", 26},     {27, "030", 26},  {27, "026", 26},
-               {-4, "010", 2},   {20, "", 20},     {20, "000", 20}};
-  for (const auto& c : cases) {
+TEST(GeneratorHelpers, ItemCountsFormsAndLabels) {
+  // Items: raised to 2, lowered to 26, then to the generator's bound ("000" or "": none).
+  const std::tuple<int, const char*, int> items[] = {
+      {0, "008", 2}, {1, "008", 2},   {5, "008", 5},   {8, "008", 8},   {9, "008", 8},  {30, "", 26},
+      {27, "030", 26}, {27, "026", 26}, {-4, "010", 2}, {20, "", 20},  {20, "000", 20}};
+  for (const auto& [in, max, expected] : items) {
     GenContext g;
-    g.GP_Items = c.items;
-    g.GP_MaxItems = c.max;
-    EXPECT_EQ(ItemsEjercicio(g), c.expected) << c.items << " / " << c.max;
+    g.GP_Items = in;
+    g.GP_MaxItems = max;
+    EXPECT_EQ(ItemsEjercicio(g), expected) << in << " / " << max;
   }
-}
-
-TEST(Forma, NeighbouringVariantsGetNeighbouringFormsNeverANegativeOne) {
-  struct Case {
-    int seqB, forms, offset, form;
-  } cases[] = {{8999, 4, 0, 3}, {9000, 4, 0, 0}, {9000, 4, 2, 2}, {9001, 3, 0, 1},
-               {9000, 1, 0, 0}, {-3, 4, 0, 1},   {2147483647, 3, 1, 2}};
-  for (const auto& c : cases) {
+  // Form: variant counter plus offset, modulo the forms, never negative.
+  const int formas[][4] = {{8999, 4, 0, 3}, {9000, 4, 0, 0}, {9000, 4, 2, 2}, {9001, 3, 0, 1},
+                           {9000, 1, 0, 0}, {-3, 4, 0, 1},   {2147483647, 3, 1, 2}};
+  for (const auto& [seqB, forms, offset, form] : formas) {
     GenContext g;
-    g.GP_SeqB = c.seqB;
-    EXPECT_EQ(Forma(g, c.forms, c.offset), c.form) << c.seqB << " " << c.forms;
+    g.GP_SeqB = seqB;
+    EXPECT_EQ(Forma(g, forms, offset), form) << seqB << " " << forms;
   }
   EXPECT_EQ(Etiqueta(1) + Etiqueta(26), "&+Ba)&-B &+Bz)&-B ");
 }
