@@ -7,8 +7,8 @@
 #include <fstream>
 #include <map>
 #include <set>
+#include <tuple>
 
-#include "modules/modulos.h"
 #include "problems/generic.h"
 #include "problems/texto.h"
 
@@ -35,12 +35,7 @@ TEST(MessageFiles, LookupsByTrimmedKeyWithoutCaseTheFirstEntryWinning) {
             "[One]=a\n[Two]=b\r\n[Three]=c\rd\r\n[Last]=no line end");
   Mensajes m(c.raiz);
   GenContext g(&m, Aleatorio(1));
-  struct Case {
-    const char* key;
-    int selector;
-    const char* text;
-    bool found;
-  } cases[] = {
+  const std::tuple<const char*, int, const char*, bool> cases[] = {  // key, selector, text, found
       {" A B", -1, "x", true},          {"dup", -1, "first", true},
       {"Deg", -1, "25 \xB0" "C", true},  // read as Windows-1252
       {"Key", -1, "", true},            // an entry without text is found, empty
@@ -50,23 +45,12 @@ TEST(MessageFiles, LookupsByTrimmedKeyWithoutCaseTheFirstEntryWinning) {
       {"One", -1, "a\n[Two]=b", true},  {"Two", -1, "", false},
       {"Three", -1, "c\rd", true},      {"Last", -1, "no line end", true},
   };
-  for (const auto& k : cases) {
+  for (const auto& [key, selector, text, found] : cases) {
     g.GP_MsgFound = true;
-    EXPECT_EQ(g.MsgQUI(k.key, k.selector), k.text) << k.key;
-    EXPECT_EQ(g.GP_MsgFound, k.found) << k.key;
+    EXPECT_EQ(g.MsgQUI(key, selector), text) << key;
+    EXPECT_EQ(g.GP_MsgFound, found) << key;
   }
   EXPECT_EQ(m.Entradas(TablaMensajes::QUI), 8u);
-}
-
-TEST(MessageFiles, AMissingFileFailsEveryLookupUntilItTurnsUp) {
-  Carpeta c;
-  Mensajes m(c.raiz);
-  GenContext g(&m);
-  EXPECT_EQ(g.MsgQUI("Asig"), "");
-  EXPECT_FALSE(g.GP_MsgFound);
-  EXPECT_FALSE(m.Cargada(TablaMensajes::QUI));
-  c.Escribe("ENG_MGE_QUI.lmo", "[Asig]=Chemistry\r\n");
-  EXPECT_EQ(g.MsgQUI("Asig"), "Chemistry");
 }
 
 TEST(MessageFiles, AnEntryWithoutItsClosingIsFatalNamingFileAndLine) {
@@ -77,8 +61,7 @@ TEST(MessageFiles, AnEntryWithoutItsClosingIsFatalNamingFileAndLine) {
     m.LoadMGE("QUI");
     ADD_FAILURE() << "a malformed line was accepted";
   } catch (const ErrorFatalDatos& e) {
-    EXPECT_EQ(e.linea(), 3);
-    EXPECT_EQ(e.fichero().filename(), "ENG_MGE_QUI.lmo");
+    EXPECT_EQ(e.fichero().filename().string() + ":" + std::to_string(e.linea()), "ENG_MGE_QUI.lmo:3");
     EXPECT_NE(std::string(e.what()).find("ENG_MGE_QUI.lmo:3"), std::string::npos) << e.what();
   }
   EXPECT_FALSE(m.Cargada(TablaMensajes::QUI));
@@ -86,17 +69,19 @@ TEST(MessageFiles, AnEntryWithoutItsClosingIsFatalNamingFileAndLine) {
 
 TEST(MessageFiles, TheCodeChoosesTheTableSlipsAndUnknownCodesAreReported) {
   Carpeta c;
+  std::vector<std::string> notices;
+  Mensajes m(c.raiz, [&](const std::string& t) { notices.push_back(t); });
+  GenContext g(&m);
+  EXPECT_EQ(g.MsgQUI("Key"), "");  // no file: every lookup fails, until it turns up
+  EXPECT_FALSE(g.GP_MsgFound || m.Cargada(TablaMensajes::QUI));
   c.Escribe("eng_mge_fis.LMO", "[Speed]=velocity\r\n");  // the name is found in any case
   c.Escribe("ENG_MGE_MAT.lmo", "[Speed]=rate\r\n");
   c.Escribe("ENG_MGE_QUI.lmo", "[ Key ]=text \r\n[Other]=fine\r\n");
   c.Escribe("ENG_MGE_XYZ.lmo", "[Speed]=none\r\n");
-  std::vector<std::string> notices;
-  Mensajes m(c.raiz, [&](const std::string& t) { notices.push_back(t); });
   Notacion n;
   n.separadorDecimal = ",";
   InitServicios(n, m);
   EXPECT_EQ(n.separadorDecimal, ".");  // the defaults come back
-  GenContext g(&m);
   EXPECT_EQ(g.MsgFIS("speed") + "|" + g.MsgMAT("speed") + "|" + g.MsgQUI("speed"), "velocity|rate|");
   EXPECT_EQ(g.MsgQUI("key"), "text ");  // a trailing blank is kept, and reported
   m.LoadMGE("XYZ");
@@ -166,40 +151,6 @@ TEST(ShippedLanguageFiles, EveryWindowKeyHasACaption) {
     ++checked;
   }
   EXPECT_GT(checked, 250);
-}
-
-TEST(ShippedLanguageFiles, TheCatalogueNamesEveryGeneratorOnce) {
-  Mensajes m(SS_SOURCE_DIR);
-  GenContext g(&m, Aleatorio(1));
-  std::vector<std::string> cat;
-  ListaProblemas(g, cat);
-  std::set<std::string> generators, topics;
-  std::map<std::string, int> headings;
-  for (const std::string& r : cat) {
-    const std::string rec = r.substr(r.find(':') + 1);
-    ASSERT_EQ(rec.size(), kLargoRegistro);
-    EXPECT_EQ(Trim(Mid(rec, 7, 65)), "Chemistry");
-    const std::string topic(Trim(Mid(rec, 72, 80))), level(Mid(rec, 232, 1));
-    EXPECT_FALSE(topic.empty()) << r;
-    if (level == "5") {
-      ++headings[std::string(Mid(rec, 1, 3)) + topic];
-      continue;
-    }
-    topics.insert(topic);
-    EXPECT_TRUE(generators.insert(r.substr(0, r.find(':')) + std::string(Mid(rec, 233, 3))).second);
-    EXPECT_FALSE(Trim(Mid(rec, 152, 80)).empty()) << r;
-    const std::string_view description = Trim(Mid(rec, 239, 160));
-    EXPECT_TRUE(description.size() > 20 && description.starts_with("&D") &&
-                std::string_view("P123").find(description[2]) != std::string_view::npos) << r;
-    EXPECT_TRUE(level == "3" || (level == "2" && Mid(rec, 236, 3) != "000")) << r;
-  }
-  EXPECT_EQ(generators.size(), 105u);
-  EXPECT_EQ(topics.size(), 14u);
-  EXPECT_EQ(headings.size(), 14u);  // one heading per topic and module
-  for (const auto& [topic, count] : headings) EXPECT_EQ(count, 1) << topic;
-  std::string st, so;
-  GeneraProblema(g, "ANEU_QUIM_TER", "0150000000010102", st, so);
-  EXPECT_EQ(st, "<Error in module ATEM__QUIM__TER:. No generator no.015>&LF");
 }
 
 }  // namespace

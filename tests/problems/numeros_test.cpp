@@ -20,18 +20,15 @@ std::vector<double> Draw(Aleatorio& a, int n) {
   return v;
 }
 
-TEST(Aleatorio, ValuesSpreadEvenlyOverTheUnitInterval) {
-  Aleatorio a(12345);
+TEST(Aleatorio, EvenOverTheUnitIntervalAndRepeatableFromASeedReseedsIncluded) {
+  Aleatorio a(7), b(7), c(8), clock1, clock2;
   int buckets[10] = {};
   for (double r : Draw(a, 20000)) {
     ASSERT_TRUE(r >= 0 && r < 1) << r;
     ++buckets[static_cast<int>(r * 10)];
   }
-  for (int b : buckets) EXPECT_NEAR(b, 2000, 250);
-}
-
-TEST(Aleatorio, ASeedRepeatsTheRunAndEachReseedMovesItOn) {
-  Aleatorio a(7), b(7), c(8), clock1, clock2;
+  for (int n : buckets) EXPECT_NEAR(n, 2000, 250);
+  Draw(b, 20000);
   std::set<double> firsts;
   for (int i = 0; i < 50; ++i) {
     a.Resembrar();
@@ -39,15 +36,14 @@ TEST(Aleatorio, ASeedRepeatsTheRunAndEachReseedMovesItOn) {
     c.Resembrar();
     const double first = a.Siguiente();
     firsts.insert(first);
-    EXPECT_EQ(first, b.Siguiente());
-    EXPECT_NE(first, c.Siguiente());  // states that differ stay different after the same reseed
+    EXPECT_EQ(b.Siguiente(), first);
+    EXPECT_NE(c.Siguiente(), first);  // states that differ stay different after the same reseed
   }
-  EXPECT_EQ(firsts.size(), 50u);
-  EXPECT_FALSE(clock1.Sembrado());
+  EXPECT_EQ(firsts.size(), 50u);  // each reseed moves the source on
   EXPECT_NE(Draw(clock1, 4), Draw(clock2, 4));
 }
 
-TEST(Alternatives, AFixedSelectorTakesItsPartModuloTheCountARandomOneAny) {
+TEST(Chance, AlternativesAndThresholds) {
   Aleatorio rnd(1);
   const char* cases[][3] = {{"one@@two@@three", "7", "two"}, {"one@@two@@three", "0", "one"},
                             {"one@@two@@three", "5", "three"}, {"one@@", "1", ""},
@@ -59,38 +55,30 @@ TEST(Alternatives, AFixedSelectorTakesItsPartModuloTheCountARandomOneAny) {
   for (int i = 0; i < 3000; ++i) ++seen[EligeAlternativa("a@@b@@c", -1, rnd)];
   ASSERT_EQ(seen.size(), 3u);
   for (const auto& [part, n] : seen) EXPECT_NEAR(n, 1000, 150) << part;
-  // r * 0.9999 * count keeps the top of the range inside.
-  Aleatorio top = Aleatorio::Guionado({0.9999999999, 0.0});
-  EXPECT_EQ(EligeAlternativa("x@@y", -1, top), "y");
-  EXPECT_EQ(EligeAlternativa("x@@y", -1, top), "x");
+  // r * 0.9999 * count keeps the top of the range inside; a threshold compares
+  // 32-bit floats, strictly: 0.50000001 is 0.5 as a float.
+  Aleatorio guion = Aleatorio::Guionado({0.9999999999, 0.0, 0.50000001, 0.5001});
+  EXPECT_EQ(EligeAlternativa("x@@y", -1, guion), "y");
+  EXPECT_EQ(EligeAlternativa("x@@y", -1, guion), "x");
+  EXPECT_FALSE(AzarSupera(guion, 0.5));
+  EXPECT_TRUE(AzarSupera(guion, 0.5));
 }
 
-TEST(AleatorioEn, AnEmptyRangeGivesItsValueWithoutADraw) {
-  Aleatorio rnd = Aleatorio::Guionado({0.3, 0.6});
-  EXPECT_EQ(AleatorioEn(rnd, 1, 1, 0, 1), 1);
-  EXPECT_EQ(AleatorioEn(rnd, 0, 0, 1, 1), 0);  // the zero test is not reached
-  EXPECT_EQ(rnd.Siguiente(), 0.3);             // nothing was consumed
-}
-
-TEST(AleatorioEn, GridDrawsGiveTheEndsHalfTheWeightAndRedrawZero) {
+TEST(AleatorioEn, GridsRangesAndZeros) {
+  Aleatorio guion = Aleatorio::Guionado({0.3, 0.6});
+  EXPECT_EQ(AleatorioEn(guion, 1, 1, 0, 1), 1);  // an empty range draws nothing,
+  EXPECT_EQ(AleatorioEn(guion, 0, 0, 1, 1), 0);  // nor tests for zero
+  EXPECT_EQ(guion.Siguiente(), 0.3);
   Aleatorio rnd(11);
-  std::map<double, int> seen;
+  std::map<double, int> seen;  // the ends of a grid carry half the weight
   for (int i = 0; i < 40000; ++i) ++seen[AleatorioEn(rnd, 0, 4, 1, 0)];
-  const std::map<double, int> expected{{0, 5000}, {1, 10000}, {2, 10000}, {3, 10000}, {4, 5000}};
-  ASSERT_EQ(seen.size(), expected.size());
-  for (const auto& [v, n] : expected) EXPECT_NEAR(seen[v], n, 500) << v;
+  const std::map<double, int> weights{{0, 5000}, {1, 10000}, {2, 10000}, {3, 10000}, {4, 5000}};
+  ASSERT_EQ(seen.size(), weights.size());
+  for (const auto& [v, n] : weights) EXPECT_NEAR(seen[v], n, 500) << v;
   std::set<double> ones, signs;
-  for (int i = 0; i < 500; ++i) {
+  for (int i = 0; i < 2000; ++i) {
     ones.insert(AleatorioEn(rnd, 0, 1, 1, 1));
     signs.insert(AleatorioEn(rnd, -1, 1, 2, 1));
-  }
-  EXPECT_EQ(ones, std::set<double>{1});
-  EXPECT_EQ(signs, (std::set<double>{-1, 1}));
-}
-
-TEST(AleatorioEn, ValuesStayInTheirRangeWithoutRoundingNoise) {
-  Aleatorio rnd(17);
-  for (int i = 0; i < 2000; ++i) {
     const double tenth = AleatorioEn(rnd, 0.1, 0.9, 0.1, 1);
     EXPECT_NEAR(tenth * 10, std::round(tenth * 10), 1e-9);
     EXPECT_TRUE(tenth >= 0.1 - 1e-12 && tenth <= 0.9 + 1e-12) << tenth;
@@ -99,17 +87,12 @@ TEST(AleatorioEn, ValuesStayInTheirRangeWithoutRoundingNoise) {
     const double reversed = AleatorioEn(rnd, 5, 2, 0, 0);
     EXPECT_TRUE(reversed > 2 && reversed <= 5) << reversed;
   }
+  EXPECT_EQ(ones, std::set<double>{1});
+  EXPECT_EQ(signs, (std::set<double>{-1, 1}));
   EXPECT_EQ(AleatorioEn(rnd, 0, 0.4, 1, 1), 0);  // the grid holds only 0: it gives up
   EXPECT_TRUE(rnd.RangoFallido);
   AleatorioEn(rnd, 1, 3, 1, 1);
   EXPECT_FALSE(rnd.RangoFallido);
-}
-
-TEST(AzarSupera, ComparesAs32BitFloatsStrictly) {
-  Aleatorio r = Aleatorio::Guionado({0.50000001, 0.5001, 0.2});
-  EXPECT_FALSE(AzarSupera(r, 0.5));  // 0.50000001 is 0.5 as a float
-  EXPECT_TRUE(AzarSupera(r, 0.5));
-  EXPECT_FALSE(AzarSupera(r, 0.5));
 }
 
 TEST(Rounding, NearIntegersPowersOfTenAndDecimalParts) {
@@ -127,7 +110,7 @@ TEST(Rounding, NearIntegersPowersOfTenAndDecimalParts) {
     EXPECT_DOUBLE_EQ(cases[i][0], cases[i][1]) << "case " << i;
 }
 
-TEST(NumberText, ShortestFormsSignificantFiguresAndGroups) {
+TEST(TextServices, NumbersFractionsAndWords) {
   const std::string cases[][2] = {
       {NumTexto(0), "0"},                   {NumTexto(-0.5), "-0&.5"},
       {NumTexto(1e15), "1&E+15"},           {NumTexto(1.5e-7), "1&.5&E-7"},
@@ -151,33 +134,28 @@ TEST(NumberText, ShortestFormsSignificantFiguresAndGroups) {
       {NumAgrupado(0, " -0&.123456 "), "-0&.123_ 456"}, {NumAgrupado(0, ".5"), "0&.5"},
       {NumAgrupado(12.5, ""), "12&.5"},     {NumAgrupado(1.5e-7, ""), "1&.5&E-07"},
       {NumAgrupado(0, "12 345 678"), "12_ 345_ 678"},
+      // Fractions reduced, the sign on top.
+      {FraccionTexto(4, -6), "#COC(-2  #N)(3#COC)"}, {FraccionTexto(6, 3), "2"},
+      {FraccionTexto(0, 5), "0"},                    {FraccionTexto(3, 4), "#COC(3#N)(4#COC)"},
+      {FraccionTexto(-10, -4), "#COC(5#N)(2#COC)"},
+      // Words.
+      {Capitaliza("mole"), "Mole"},        {Capitaliza("\xE9tat"), "\xC9tat"},
+      {Capitaliza(""), ""},                {DeNombre("hidr\xF3geno", false), "d'hidr\xF3geno"},
+      {DeNombre("hna", true), "De hna"},   {DeNombre("", false), "d'"},
+      {DeNombre("sodi", false), "de sodi"}, {DeNombre("\xC0rea", false), "d'\xC0rea"},
+      {ArticuloAn(8, true), "An "},        {ArticuloAn(3, true), "A "},
   };
   for (const auto& [got, expected] : cases) EXPECT_EQ(got, expected);
   EXPECT_THROW(NumCifras(std::nan(""), 3), GenFault);
   EXPECT_THROW(NumTexto(HUGE_VAL), GenFault);
 }
 
-TEST(Fractions, DivisorsMultiplesAndReducedText) {
-  const double mcd[][3] = {{12, 18, 6}, {-12, 18, 6}, {0, 7, 7},   {7, 0, 7},
+TEST(Arithmetic, DivisorsAndMultiples) {
+  const double mcd[][3] = {{12, 18, 6}, {-12, 18, 6}, {0, 7, 7},  {7, 0, 7},
                            {0, 0, 1},   {2e10, 4, 1}, {17, 5, 1}, {4, -6, 2}};
   for (const auto& [a, b, d] : mcd) EXPECT_EQ(MCD(a, b), d) << a << " " << b;
   EXPECT_EQ(MCM(4, 6) + MCM(3, 5) + MCM(6, 0), 12 + 15 + 0);
-  const std::string cases[][2] = {
-      {FraccionTexto(4, -6), "#COC(-2  #N)(3#COC)"}, {FraccionTexto(6, 3), "2"},
-      {FraccionTexto(0, 5), "0"},                    {FraccionTexto(3, 4), "#COC(3#N)(4#COC)"},
-      {FraccionTexto(-10, -4), "#COC(5#N)(2#COC)"}};
-  for (const auto& [got, expected] : cases) EXPECT_EQ(got, expected);
-}
-
-TEST(WordServices, CapitalsElisionAndArticles) {
-  const std::string cases[][2] = {
-      {Capitaliza("mole"), "Mole"},        {Capitaliza("\xE9tat"), "\xC9tat"},
-      {Capitaliza(""), ""},                {DeNombre("hidr\xF3geno", false), "d'hidr\xF3geno"},
-      {DeNombre("hna", true), "De hna"},   {DeNombre("", false), "d'"},
-      {DeNombre("sodi", false), "de sodi"}, {DeNombre("\xC0rea", false), "d'\xC0rea"},
-      {ArticuloAn(8, true), "An "},        {ArticuloAn(3, true), "A "}};
-  for (const auto& [got, expected] : cases) EXPECT_EQ(got, expected);
-  // Each range's ends; "a " elsewhere.
+  // The article of a number read aloud: each range's ends; "a " elsewhere.
   const double an[] = {1, 8, 11, 18, 80, 89.9, 100, 199, 800, 1800, 11000, 11999, 18500,
                        1000000, 8500000, 11000000, 18999999};
   const double a[] = {0, 0.8, -8, 2, 20, 90, 200, 10000, 12000, 15000, 20000, 2000000, 12000000};
