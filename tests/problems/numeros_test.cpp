@@ -100,11 +100,7 @@ TEST(Chance, AlternativesAndThresholds) {
                             {"a@b", "1", "a@b"}};  // a single @ is text
   for (const auto& [text, sel, expected] : cases)
     EXPECT_EQ(EligeAlternativa(text, std::atoi(sel), rnd), expected) << text << " " << sel;
-  std::map<std::string, int> seen;
-  for (int i = 0; i < 3000; ++i) ++seen[EligeAlternativa("a@@b@@c", -1, rnd)];
-  ASSERT_EQ(seen.size(), 3u);
-  for (const auto& [part, n] : seen) EXPECT_NEAR(n, 1000, 150) << part;
-  // r * 0.9999 * count keeps the top of the range inside; a threshold compares
+  // A random choice: r * 0.9999 * count keeps the top of the range inside; a threshold compares
   // 32-bit floats, strictly: 0.50000001 is 0.5 as a float.
   Aleatorio guion = Aleatorio::Guionado({0.9999999999, 0.0, 0.50000001, 0.5001});
   EXPECT_EQ(EligeAlternativa("x@@y", -1, guion), "y");
