@@ -45,8 +45,6 @@ constexpr Generador kGen[] = {GenNormal, GenDivide, GenThrowsStd, GenThrowsOther
                               GenNan,    GenSilent, nullptr,      GenWords};
 constexpr Generador kRespaldo[] = {nullptr, nullptr, nullptr, nullptr, nullptr, GenFallback};
 const ModuloDef kTst{"ANEU_QUIM_TST", "TST", kGen, "ATEM_QUIM_TST", kRespaldo};
-constexpr Generador kGen2[] = {GenNormal};
-const ModuloDef kTwo{"ANEU_QUIM_TWO", "TWO", kGen2, "ATEM_QUIM_TWO", {}};
 // A module whose catalogue entries stand in a table beside its generators: the
 // dispatcher sets each entry, and the bound in generate mode too.
 void GenConTabla(GenContext& g) {
@@ -55,7 +53,7 @@ void GenConTabla(GenContext& g) {
 constexpr Generador kGenTabla[] = {GenConTabla, nullptr};
 constexpr Entrada kEntradas[] = {{"2", "760", "T_Gases", "030", "006"}, {"3", "770", "T_Disoluciones", "010", ""}};
 const ModuloDef kTab{"ANEU_QUIM_TAB", "TAB", kGenTabla, "ATEM_QUIM_TAB", {}, kEntradas};
-const ModuloDef* const kTabla[] = {&kTst, &kTwo, &kTab};
+const ModuloDef* const kTabla[] = {&kTst, &kTab};
 
 MensajesFijos Completos() {
   return {{"Asig", "Chemistry"}, {"T_Gases", "Gases"}, {"T_Disoluciones", "Solutions"},
@@ -64,7 +62,7 @@ MensajesFijos Completos() {
           {"D_TST_1", "&D1 Find the volume"}, {"S_TST_2", "Divides"}, {"D_TST_2", std::string(200, 'd')},
           {"S_TST_3", "Throws"}, {"D_TST_3", "&D2 Throws"}, {"S_TST_4", "Other"}, {"S_TST_5", "Nan"},
           {"S_TST_6", "Silent"}, {"S_TST_7", "Not written"}, {"S_TST_8", "Words"},
-          {"S_TWO_1", "Second module"}, {"D_TWO_1", "&DP Second"}, {"S_TAB_1", "Tabled"},
+          {"S_TAB_1", "Tabled"},
           {"D_TAB_1", "&D1 Tabled"}, {"S_TAB_2", "Not written yet"}, {"D_TAB_2", "&D2 Later"}};
 }
 
@@ -169,8 +167,6 @@ TEST(ListaProblemas, ListsEveryWrittenGeneratorWithOneHeadingPerTopic) {
       "ANEU_QUIM_TST:760010 2002008 Chemistry|Gases|Divides|" + std::string(160, 'd'),
       "ANEU_QUIM_TST:770000 5000000 Chemistry|Solutions||",
       "ANEU_QUIM_TST:770005 3003000 Chemistry|Solutions|Throws|&D2 Throws",  // a blank level: a problem
-      "ANEU_QUIM_TWO:760000 5000000 Chemistry|Gases||",
-      "ANEU_QUIM_TWO:760020 3001000 Chemistry|Gases|Second module|&DP Second",
       "ANEU_QUIM_TAB:760000 5000000 Chemistry|Gases||",
       "ANEU_QUIM_TAB:760030 2001006 Chemistry|Gases|Tabled|&D1 Tabled",
       "ANEU_QUIM_TAB:770000 5000000 Chemistry|Solutions||",
@@ -187,7 +183,7 @@ TEST(ListaProblemas, ListsEveryWrittenGeneratorWithOneHeadingPerTopic) {
   // Without a subtopic name a generator is left out; without messages, all are.
   m.Quita("S_TST_1");
   ListaProblemas(kTabla, g, cat);
-  EXPECT_EQ(cat.size(), 10u);
+  EXPECT_EQ(cat.size(), 8u);
   for (const std::string& r : cat) EXPECT_FALSE(r.starts_with("ANEU_QUIM_TST:760020")) << r;
   GenContext sin(nullptr, Aleatorio(1));
   ListaProblemas(kTabla, sin, cat);
@@ -202,18 +198,17 @@ TEST(ListaProblemas, AnEducationSystemPlacesGeneratorsPerAdmittedSubject) {
   g.silabo = &s;
   std::vector<std::string> cat;
   ListaProblemas(kTabla, g, cat);
-  // Generators 1, 2 and 3 of TST, 1 of TWO and both of TAB are offered to the two chemistry
+  // Generators 1, 2 and 3 of TST and both of TAB are offered to the two chemistry
   // subjects (4 has no topic text); each subject has its own headings.
   std::string llamadas, registros;
   for (const std::string& l : s.llamadas) llamadas += l + " ";
   EXPECT_EQ(llamadas, "1:ANEU_QUIM_TST:1 3:ANEU_QUIM_TST:1 1:ANEU_QUIM_TST:2 3:ANEU_QUIM_TST:2 "
-                      "1:ANEU_QUIM_TST:3 3:ANEU_QUIM_TST:3 1:ANEU_QUIM_TWO:1 3:ANEU_QUIM_TWO:1 "
-                      "1:ANEU_QUIM_TAB:1 3:ANEU_QUIM_TAB:1 1:ANEU_QUIM_TAB:2 3:ANEU_QUIM_TAB:2 ");
+                      "1:ANEU_QUIM_TST:3 3:ANEU_QUIM_TST:3 1:ANEU_QUIM_TAB:1 3:ANEU_QUIM_TAB:1 "
+                      "1:ANEU_QUIM_TAB:2 3:ANEU_QUIM_TAB:2 ");
   // Per record: topic ordinal, subtopic ordinal, the subject's number, level.
   for (const std::string& r : cat)
     registros += Col(r, 15, 6) + Col(r, 31, 1) + Col(r, 246, 1) + " ";
   EXPECT_EQ(registros, "00900015 00900113 00900025 00900123 00900015 00900313 00900025 00900323 "
-                       "00900015 00900113 00900025 00900123 "
                        "00900015 00900112 00900025 00900122 ");
   EXPECT_EQ(Trim(Col(cat[1].substr(14), 152, 80)), "Volume of a gas (Chemistry 1)");
 }
