@@ -70,15 +70,13 @@ std::string Col(const std::string& r, std::size_t from, std::size_t len) {
   return std::string(Mid(r, from, len));
 }
 
-TEST(NormalizaModulo, UpperCasesAndReplacesTheOldNamesAnywhere) {
-  const char* cases[][2] = {
+TEST(GeneraProblema, ModulesGeneratorsAndNotices) {
+  // A requested name is upper-cased and the old module names are replaced anywhere in it.
+  const char* nombres[][2] = {
       {"okbr_chem_dis", "ANEU_QUIM_DIS"}, {"OKBR_QUIM_TER", "ANEU_QUIM_TER"}, {"aneu_quim_eab", "ANEU_QUIM_EAB"},
       {"okbr_math_x", "ANEU_MATE_X"}, {"OKBR_MATE", "ANEU_MATE"}, {"okbr_phys_y", "ANEU_FISI_Y"},
       {"okbr_fisi", "ANEU_FISI"},     {"x_okbr_chem_okbr_chem", "X_ANEU_QUIM_ANEU_QUIM"}};
-  for (const auto& c : cases) EXPECT_EQ(NormalizaModulo(c[0]), c[1]) << c[0];
-}
-
-TEST(GeneraProblema, ModulesGeneratorsAndNotices) {
+  for (const auto& [name, normal] : nombres) EXPECT_EQ(NormalizaModulo(name), normal) << name;
   // Messages: '=' all, '0' none, 's' without the statement key, '+' with S_TST_15.
   // Expected: statement | solution.
   auto falla = [](const char* number, const char* description, const char* command) {

@@ -6,7 +6,6 @@
 #include <functional>
 #include <map>
 #include <set>
-#include <vector>
 
 #include "problems/aleatorio.h"
 #include "problems/fallos.h"
@@ -15,12 +14,6 @@
 
 namespace ss {
 namespace {
-
-std::vector<double> Draw(Aleatorio& a, int n) {
-  std::vector<double> v;
-  for (int i = 0; i < n; ++i) v.push_back(a.Siguiente());
-  return v;
-}
 
 TEST(Cp1252, ConvertsToUtf8AndBackWithoutLoss) {
   std::string all;
@@ -31,10 +24,7 @@ TEST(Cp1252, ConvertsToUtf8AndBackWithoutLoss) {
   // The characters that differ from Latin-1, and a few that do not.
   const char* cases[][2] = {{"\x80", "\u20AC"}, {"\x96", "\u2013"}, {"\x93" "a" "\x94", "\u201Ca\u201D"},
                             {"\xB0" "C", "\u00B0C"}, {"\xD7" "10", "\u00D710"}, {"\x9F", "\u0178"}};
-  for (const auto& [cp, utf8] : cases) {
-    EXPECT_EQ(Cp1252ToUtf8(cp), utf8);
-    EXPECT_EQ(Utf8ToCp1252(utf8), cp);
-  }
+  for (const auto& [cp, utf8] : cases) EXPECT_EQ(Cp1252ToUtf8(cp) + "|" + Utf8ToCp1252(utf8), utf8 + ("|" + std::string(cp)));
   // What has no form becomes "?", one mark per character or broken byte.
   EXPECT_EQ(Utf8ToCp1252("H\u2082O \u03B1", &exact), "H?O ?");
   EXPECT_FALSE(exact);
@@ -71,15 +61,15 @@ TEST(CheckedArithmetic, GivesTheResultOrRaisesTheClassicFault) {
   for (std::size_t i = 0; i < std::size(faults); ++i) EXPECT_EQ(Falla(faults[i].first), faults[i].second) << i;
 }
 
-TEST(Aleatorio, EvenOverTheUnitIntervalAndRepeatableFromASeedReseedsIncluded) {
+TEST(Chance, EvenDrawsRepeatableFromASeedAlternativesAndThresholds) {
   Aleatorio a(7), b(7), c(8), clock1, clock2;
   int buckets[10] = {};
-  for (double r : Draw(a, 20000)) {
-    ASSERT_TRUE(r >= 0 && r < 1) << r;
+  for (int i = 0; i < 20000; ++i) {
+    const double r = a.Siguiente();
+    ASSERT_TRUE(r >= 0 && r < 1 && b.Siguiente() == r) << r;
     ++buckets[static_cast<int>(r * 10)];
   }
   for (int n : buckets) EXPECT_NEAR(n, 2000, 250);
-  Draw(b, 20000);
   std::set<double> firsts;
   for (int i = 0; i < 50; ++i) {
     for (Aleatorio* x : {&a, &b, &c}) x->Resembrar();
@@ -89,10 +79,8 @@ TEST(Aleatorio, EvenOverTheUnitIntervalAndRepeatableFromASeedReseedsIncluded) {
     EXPECT_NE(c.Siguiente(), first);  // states that differ stay different after the same reseed
   }
   EXPECT_EQ(firsts.size(), 50u);  // each reseed moves the source on
-  EXPECT_NE(Draw(clock1, 4), Draw(clock2, 4));
-}
-
-TEST(Chance, AlternativesAndThresholds) {
+  EXPECT_NE(clock1.Siguiente(), clock2.Siguiente());  // sources seeded from the clock differ
+  // Alternatives: a fixed selector takes its part modulo the count.
   Aleatorio rnd(1);
   const char* cases[][3] = {{"one@@two@@three", "7", "two"}, {"one@@two@@three", "0", "one"},
                             {"one@@two@@three", "5", "three"}, {"one@@", "1", ""},
@@ -140,14 +128,16 @@ TEST(AleatorioEn, GridsRangesAndZeros) {
   EXPECT_FALSE(rnd.RangoFallido);
 }
 
-TEST(Rounding, NearIntegersPowersOfTenAndDecimalParts) {
+TEST(Rounding, NearIntegersPowersOfTenDecimalPartsDivisorsAndMultiples) {
   const double cases[][2] = {
       {EnteroSiCasi(2.9999999999), 3}, {EnteroSiCasi(-4.00000000001), -4}, {EnteroSiCasi(2.5), 2.5},
       {EnteroSiCasi(0.30000000000000004), 0.30000000000000004}, {EnteroSiCasi(1e308), 1e308},  // overflow
       {RedondeaPot(1234, 1), 1200},    {RedondeaPot(2.345, -3), 2.35},   {RedondeaPot(-2.5, -1), -2},
       {RedondeaPot(2.5, -1), 3},       {RedondeaPot(0.000123456, -7), 0.000123},
       {RedondeaPot(99950, 2), 100000}, {RedondeaPot(149, 1), 100},       {ParteDecimal(3.25), 0.25},
-      {ParteDecimal(-3.25), -0.25},    {ParteDecimal(2e15), 0}};
+      {ParteDecimal(-3.25), -0.25},    {ParteDecimal(2e15), 0},
+      {MCD(12, 18), 6}, {MCD(-12, 18), 6}, {MCD(0, 7), 7}, {MCD(7, 0), 7}, {MCD(0, 0), 1}, {MCD(2e10, 4), 1},
+      {MCD(17, 5), 1},  {MCD(4, -6), 2},   {MCM(4, 6), 12}, {MCM(3, 5), 15}, {MCM(6, 0), 0}};
   for (std::size_t i = 0; i < std::size(cases); ++i)
     EXPECT_DOUBLE_EQ(cases[i][0], cases[i][1]) << "case " << i;
 }
@@ -192,21 +182,14 @@ TEST(TextServices, TextNumbersFractionsAndWords) {
       {DeNombre("", false), "d'"},  {DeNombre("sodi", false), "de sodi"}, {DeNombre("\xC0rea", false), "d'\xC0rea"},
       {ArticuloAn(8, true), "An "}, {ArticuloAn(3, true), "A "}};
   for (const auto& [got, expected] : cases) EXPECT_EQ(got, expected);
+  // The article of a number read aloud: each range's ends; "a " elsewhere.
+  for (double x : {1.0, 8.0, 11.0, 18.0, 80.0, 89.9, 100.0, 199.0, 800.0, 1800.0, 11000.0, 11999.0, 18500.0,
+                   1e6, 8.5e6, 1.1e7, 18999999.0})
+    EXPECT_EQ(ArticuloAn(x, false), "an ") << x;
+  for (double x : {0.0, 0.8, -8.0, 2.0, 20.0, 90.0, 200.0, 10000.0, 12000.0, 15000.0, 20000.0, 2e6, 1.2e7})
+    EXPECT_EQ(ArticuloAn(x, false), "a ") << x;
   EXPECT_THROW(NumCifras(std::nan(""), 3), GenFault);
   EXPECT_THROW(NumTexto(HUGE_VAL), GenFault);
-}
-
-TEST(Arithmetic, DivisorsAndMultiples) {
-  const double mcd[][3] = {{12, 18, 6}, {-12, 18, 6}, {0, 7, 7},  {7, 0, 7},
-                           {0, 0, 1},   {2e10, 4, 1}, {17, 5, 1}, {4, -6, 2}};
-  for (const auto& [a, b, d] : mcd) EXPECT_EQ(MCD(a, b), d) << a << " " << b;
-  EXPECT_EQ(MCM(4, 6) + MCM(3, 5) + MCM(6, 0), 12 + 15 + 0);
-  // The article of a number read aloud: each range's ends; "a " elsewhere.
-  const double an[] = {1, 8, 11, 18, 80, 89.9, 100, 199, 800, 1800, 11000, 11999, 18500,
-                       1000000, 8500000, 11000000, 18999999};
-  const double a[] = {0, 0.8, -8, 2, 20, 90, 200, 10000, 12000, 15000, 20000, 2000000, 12000000};
-  for (double x : an) EXPECT_EQ(ArticuloAn(x, false), "an ") << x;
-  for (double x : a) EXPECT_EQ(ArticuloAn(x, false), "a ") << x;
 }
 
 }  // namespace
