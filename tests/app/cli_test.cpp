@@ -10,10 +10,10 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTemporaryDir>
 
 #include <map>
-#include <set>
 
 #include "problems/idioma.h"
 #include "problems/texto.h"
@@ -30,12 +30,8 @@ struct Salida {
 Salida Cli(const QStringList& args) {
   QProcess p;
   p.start(QStringLiteral(SS_CLI_PATH), args);
-  Salida r;
   if (!p.waitForFinished(60000)) p.kill();
-  if (p.exitStatus() == QProcess::NormalExit) r.code = p.exitCode();
-  r.out = p.readAllStandardOutput();
-  r.err = p.readAllStandardError();
-  return r;
+  return {p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1, p.readAllStandardOutput(), p.readAllStandardError()};
 }
 
 QByteArray Lee(const QString& ruta) {
@@ -64,9 +60,6 @@ std::map<QString, std::pair<int, int>> ItemsDe(const QString& asignatura, const 
 TEST(Cli, GenerateMakesAProblemOrSaysWhyNot) {
   const struct { QString modulo, comando, statement, solution; } casos[] = {
       {"ANEU_QUIM_TER", "0150000000010102", "<Error in module ATEM__QUIM__TER:. No generator no.015>&LF", "&LF"},
-      {"okbr_chem_xyz", "0010000000000000",
-       "<ERROR: Cannot re-create the problem.>&LFRequested module=okbr__chem__xyz alias ANEU__QUIM__XYZ&LF",
-       "<ERROR>&LF"},
       // "é" goes in as UTF-8, through the single-byte text and back out, upper-cased to "É".
       {"caf\u00e9", "0010000000000000",
        "<ERROR: Cannot re-create the problem.>&LFRequested module=caf\u00e9 alias CAF\u00c9&LF", "<ERROR>&LF"},
@@ -78,11 +71,9 @@ TEST(Cli, GenerateMakesAProblemOrSaysWhyNot) {
     EXPECT_EQ(r.obj().value("solution").toString(), c.solution);
     EXPECT_TRUE(r.err.isEmpty()) << r.err.toStdString();
   }
-  for (const QString& modulo : {QString(), QString("\"&#_^%"), QString(5000, 'A')}) {
-    const Salida r = Cli({"generate", modulo, "0010000000000000", "--seed=18446744073709551615"});
-    ASSERT_EQ(r.code, 0);
-    EXPECT_FALSE(r.obj().value("statement").toString().isEmpty());
-  }
+  // Odd module names still give a problem.
+  for (const QString& modulo : {QString(), QString("\"&#_^%"), QString(5000, 'A')})
+    EXPECT_FALSE(Cli({"generate", modulo, "0010000000000000", "--seed=18446744073709551615"}).obj()["statement"].toString().isEmpty());
 }
 
 TEST(Cli, HelpAndVersionGoToStdout) {
@@ -92,13 +83,10 @@ TEST(Cli, HelpAndVersionGoToStdout) {
     EXPECT_TRUE(todo.out.contains(QByteArray("\n  ") + comando)) << comando;
     const Salida una = Cli({comando, "--help"});
     EXPECT_EQ(una.code, 0) << comando;
-    EXPECT_TRUE(una.out.startsWith(QByteArray("usage: sheetsmith-cli ") + comando)) << una.out.toStdString();
-    EXPECT_TRUE(una.err.isEmpty());
+    EXPECT_TRUE(una.out.startsWith(QByteArray("usage: sheetsmith-cli ") + comando) && una.err.isEmpty()) << una.out.toStdString();
   }
-  EXPECT_TRUE(Cli({"new", "-h"}).out.contains("--item <MODULE:N=AMOUNT[:ITEMS]>"));
   const Salida v = Cli({"--version"});
-  EXPECT_EQ(v.code, 0);
-  EXPECT_TRUE(QRegularExpression("^sheetsmith-cli \\d+\\.\\d+\\.\\d+\\n$").match(QString(v.out)).hasMatch()) << v.out.toStdString();
+  EXPECT_TRUE(v.code == 0 && QRegularExpression("^sheetsmith-cli \\d+\\.\\d+\\.\\d+\\n$").match(QString(v.out)).hasMatch()) << v.out.toStdString();
 }
 
 TEST(Cli, WrongArgumentsGiveOneUsageLineExit2AndNoFile) {
@@ -130,40 +118,35 @@ TEST(Cli, WrongArgumentsGiveOneUsageLineExit2AndNoFile) {
     const Salida r = Cli(args);
     SCOPED_TRACE(args.join(' ').toStdString());
     EXPECT_EQ(r.code, 2);
-    EXPECT_TRUE(r.out.isEmpty());
-    EXPECT_EQ(r.err.count('\n'), 1) << r.err.toStdString();
+    EXPECT_TRUE(r.out.isEmpty() && r.err.count('\n') == 1) << r.err.toStdString();
     EXPECT_TRUE(r.err.contains("usage: sheetsmith-cli")) << r.err.toStdString();
   }
   EXPECT_TRUE(QDir(dir.path()).isEmpty());
 }
 
+// Without a system, the program's own placing, each module's records in one run;
+// with one, its subjects in its order and in each, ordinals that never go back.
 TEST(Cli, CatalogueListsEveryGeneratorUnderItsTopic) {
-  int details = 0, headings = 0;
-  QStringList modules;
-  for (const QByteArray& line : Cli({"catalogue"}).out.split('\n')) {
-    if (line.isEmpty()) continue;
-    const QString module = QString::fromUtf8(line.left(line.indexOf(':')));
-    const QString rec = QString::fromUtf8(line.mid(line.indexOf(':') + 1));
-    ASSERT_EQ(rec.size(), 398) << line.toStdString();
-    if (modules.isEmpty() || modules.back() != module) {
-      EXPECT_FALSE(modules.contains(module)) << "modules come in one run each";
-      modules << module;
+  for (const QStringList& sysedu : {QStringList{}, QStringList{"--sysedu", "Secondary_Chemistry.sed"}}) {
+    int details = 0, headings = 0;
+    QStringList modules, claves;
+    for (const QByteArray& line : Cli(QStringList{"catalogue"} + sysedu).out.split('\n')) {
+      if (line.isEmpty()) continue;
+      const QString module = QString::fromUtf8(line.left(line.indexOf(':'))), rec = QString::fromUtf8(line.mid(line.indexOf(':') + 1));
+      ASSERT_EQ(rec.size(), 398) << line.toStdString();
+      if (modules.isEmpty() || modules.back() != module) modules << module;
+      claves << rec.mid(6, 65).trimmed() + rec.left(6);
+      rec.at(231) == '5' ? ++headings : ++details;
+      if (rec.at(231) != '5') EXPECT_FALSE(rec.mid(151, 80).trimmed().isEmpty() || rec.mid(238, 160).trimmed().isEmpty());
     }
-    rec.at(231) == '5' ? ++headings : ++details;
-    if (rec.at(231) != '5') EXPECT_FALSE(rec.mid(151, 80).trimmed().isEmpty() || rec.mid(238, 160).trimmed().isEmpty());
+    if (sysedu.isEmpty()) {
+      EXPECT_EQ(QList<qsizetype>({details, headings, modules.size(), QSet<QString>(modules.begin(), modules.end()).size()}), QList<qsizetype>({105, 14, 10, 10}));
+    } else {
+      EXPECT_GT(details, 80);
+      EXPECT_TRUE(claves.first().startsWith("Chemistry 1") && claves.last().startsWith("Chemistry 2"));
+      EXPECT_TRUE(std::is_sorted(claves.begin(), claves.end()));
+    }
   }
-  EXPECT_EQ(details, 105);
-  EXPECT_EQ(headings, 14);
-  EXPECT_EQ(modules.size(), 10);
-  // With a system: its subjects in its order, and in each, ordinals that never go back.
-  QStringList claves;
-  for (const QByteArray& line : Cli({"catalogue", "--sysedu", "Secondary_Chemistry.sed"}).out.split('\n')) {
-    const QString rec = QString::fromUtf8(line.mid(line.indexOf(':') + 1));
-    if (!line.isEmpty()) claves << rec.mid(6, 65).trimmed() + rec.left(6);
-  }
-  EXPECT_GT(claves.size(), 80);
-  EXPECT_TRUE(claves.first().startsWith("Chemistry 1") && claves.last().startsWith("Chemistry 2"));
-  EXPECT_TRUE(std::is_sorted(claves.begin(), claves.end())) << claves.join(' ').toStdString();
 }
 
 TEST(Cli, SubjectsAndTopicsShowTheCatalogue) {
@@ -184,7 +167,6 @@ TEST(Cli, SubjectsAndTopicsShowTheCatalogue) {
       for (const QJsonValue& tema : json.json().array()) {
         EXPECT_FALSE(tema["topic"].toString().isEmpty());
         for (const QJsonValue& i : tema["items"].toArray()) {
-          EXPECT_EQ(i["item"].toString(), i["module"].toString() + ":" + QString::number(i["generator"].toInt()));
           EXPECT_FALSE(i["name"].toString().isEmpty() || i["description"].toString().startsWith('&'));
           const int nivel = niveles.at(i["kind"].toString());
           const int max = esperado.count(i["item"].toString()) ? esperado.at(i["item"].toString()).second : -1;
@@ -193,12 +175,9 @@ TEST(Cli, SubjectsAndTopicsShowTheCatalogue) {
         }
       }
       EXPECT_EQ(vistos, esperado);
-      // The plain listing: the subject, indented topics, one "MODULE:N" item a line.
-      std::set<QString> lineas;
-      for (const QString& l : QString(Cli(QStringList{"topics", "--subject", a} + c.sysedu).out).split('\n', Qt::SkipEmptyParts))
-        if (l.startsWith("    ")) lineas.insert(l.trimmed().section(' ', 0, 0));
-      EXPECT_EQ(lineas.size(), esperado.size());
-      EXPECT_TRUE(lineas.count(esperado.begin()->first));
+      // The plain listing: one "MODULE:N" item a line, indented under its topic.
+      const QString plano = Cli(QStringList{"topics", "--subject", a} + c.sysedu).out;
+      EXPECT_EQ(plano.count(QRegularExpression("^    \\S+:\\d+ ", QRegularExpression::MultilineOption)), esperado.size());
     }
   }
 }
@@ -222,13 +201,11 @@ TEST(Cli, ASheetFromTopicsAloneReadsBackThroughInfo) {
 
   const QJsonObject info = Cli({"info", col}).obj();
   EXPECT_EQ(info["pages"].toInt(), r.obj().value("pages").toInt());
-  const QJsonObject cab = info["header"].toObject();
   const std::map<QString, QJsonValue> campos = {
       {"TITULO", "Gases & m\u00e1s ?"}, {"POSSOL", 2}, {"NPROB", 5}, {"POSNUMPAG", 9}, {"PAGINI", 1},
       {"PROINI", 1}, {"COLRESPRO", 16777215}, {"ORDENA", true}, {"PRETIT", ""}, {"PROSUF", ")"}};
-  for (const auto& [k, v] : campos) EXPECT_EQ(cab[k], v) << k.toStdString();
-  const int max19 = ItemsDe("Chemistry").at("ANEU_QUIM_DIS:19").second;
-  ASSERT_TRUE(max19 > 0 && max19 < 30);
+  for (const auto& [k, v] : campos) EXPECT_EQ(info["header"][k], v) << k.toStdString();
+  const int max19 = ItemsDe("Chemistry").at("ANEU_QUIM_DIS:19").second;  // fewer than the 30 asked
   // In topic order: the conversions before the gas problems; counters run on.
   const QJsonArray problemas = info["problems"].toArray();
   ASSERT_EQ(problemas.size(), 5);
@@ -239,9 +216,7 @@ TEST(Cli, ASheetFromTopicsAloneReadsBackThroughInfo) {
     EXPECT_EQ(p["module"].toString(), "ANEU_QUIM_DIS");
     EXPECT_EQ(QList<int>({p["Rutina"].toInt(), p["Orden"].toInt(), p["Total"].toInt(), p["Cantidad"].toInt()}),
               QList<int>({rutinas[k], ordenes[k], rutinas[k] == 9 ? 3 : 2, rutinas[k] == 9 ? 6 : max19}));
-    const QString comando = QString::asprintf("%03d%03d%04d%02d%02d%02d", p["Rutina"].toInt(), p["Semilla"].toInt() % 1000,
-                                              p["NumVariante"].toInt() % 10000, p["Cantidad"].toInt(), p["Total"].toInt(), p["Orden"].toInt());
-    EXPECT_EQ(p["command"].toString(), comando);
+    EXPECT_TRUE(QRegularExpression(QString::asprintf("^%03d\\d{13}$", rutinas[k])).match(p["command"].toString()).hasMatch());
     EXPECT_FALSE(p["statement"].toString().isEmpty() || p["statement"].toString().contains("ERROR"));
     EXPECT_TRUE(p["solution"].toString().endsWith("&LF"));
     if (ordenes[k] > 1)
@@ -249,22 +224,18 @@ TEST(Cli, ASheetFromTopicsAloneReadsBackThroughInfo) {
   }
 }
 
+// --all: every item twice, exercises and questions of 6 items or the most their
+// generator gives; shuffled, the same seed gives the same file.
 TEST(Cli, NewMarksWhatIsAskedAndTheSeedRepeatsIt) {
   QTemporaryDir dir;
-  const QStringList pedido = {"new", "--subject", "Chemistry", "--item", "ANEU_QUIM_DIS:4=4", "--shuffle", "-o"};
-  for (const char* f : {"a.col", "b.col"})
-    ASSERT_EQ(Cli(pedido + QStringList{dir.filePath(f), "--seed", "77"}).code, 0);
-  ASSERT_EQ(Cli(pedido + QStringList{dir.filePath("c.col"), "--seed", "78"}).code, 0);
+  const QStringList pedido = {"new", "--subject", "CHEMISTRY", "--all", "2", "--possol", "0", "--shuffle", "-o"};
+  for (const QString f : {"a", "b", "c"}) ASSERT_EQ(Cli(pedido + QStringList{dir.filePath(f + ".col"), "--seed", f == "c" ? "78" : "77"}).code, 0);
   EXPECT_EQ(Lee(dir.filePath("a.col")), Lee(dir.filePath("b.col")));
   EXPECT_NE(Lee(dir.filePath("a.col")), Lee(dir.filePath("c.col")));
-
-  // --all: every item twice; exercises and questions of 6 items, or the most their generator gives.
-  const Salida r = Cli({"new", "--subject", "CHEMISTRY", "--all", "2", "--possol", "0", "-o", dir.filePath("all.col")});
-  ASSERT_EQ(r.code, 0) << r.err.toStdString();
+  const Salida r = Cli({"info", dir.filePath("a.col")});
   const auto items = ItemsDe("Chemistry");
-  EXPECT_EQ(r.obj().value("problems").toInt(), 2 * static_cast<int>(items.size()));
   std::map<QString, int> vistos;
-  for (const QJsonValue& p : Cli({"info", dir.filePath("all.col")}).obj()["problems"].toArray()) {
+  for (const QJsonValue& p : r.obj()["problems"].toArray()) {
     const QString clave = p["module"].toString() + ":" + QString::number(p["Rutina"].toInt());
     ASSERT_TRUE(items.count(clave)) << clave.toStdString();
     ++vistos[clave];
@@ -274,25 +245,22 @@ TEST(Cli, NewMarksWhatIsAskedAndTheSeedRepeatsIt) {
   EXPECT_EQ(vistos.size(), items.size());
   for (const auto& [clave, n] : vistos) EXPECT_EQ(n, 2) << clave.toStdString();
 
-  const Salida curso = Cli({"new", "--sysedu", "Secondary_Chemistry.sed", "--subject", "Chemistry 1", "--item",
-                            "ANEU_QUIM_DIS:9=2", "--item", "ANEU_QUIM_DIS:11=1:4", "-o", dir.filePath("c1.col")});
-  ASSERT_EQ(curso.code, 0) << curso.err.toStdString();
-  EXPECT_EQ(curso.obj().value("problems").toInt(), 3);
-  EXPECT_EQ(Cli({"catalogue", "--sysedu", "none.sed"}).code, 1);
+  EXPECT_EQ(Cli({"new", "--sysedu", "Secondary_Chemistry.sed", "--subject", "Chemistry 1", "--item", "ANEU_QUIM_DIS:9=2",
+                 "--item", "ANEU_QUIM_DIS:11=1:4", "-o", dir.filePath("c1.col")}).obj().value("problems").toInt(), 3);
 }
 
-TEST(Cli, RenderDrawsEveryPage) {
-  QTemporaryDir dir;
+// Every page is written, or, when a file cannot be read or an output cannot be
+// written, the program's own message, exit 1, no output and no file left behind.
+TEST(Cli, RenderWritesEveryPageOrNothing) {
+  QTemporaryDir dir, lleno;
   const QString col = dir.filePath("s.col");
   const Salida n = Cli({"new", "--subject", "Chemistry", "--item", "ANEU_QUIM_DIS:6=9", "--possol", "3", "--seed", "3", "-o", col});
-  ASSERT_EQ(n.code, 0) << n.err.toStdString();
   const int paginas = n.obj().value("pages").toInt();
-  ASSERT_GE(paginas, 3);
+  ASSERT_TRUE(n.code == 0 && paginas >= 3) << n.err.toStdString();
   ASSERT_EQ(Cli({"render", col, "-o", dir.filePath("s.pdf")}).obj().value("pages").toInt(), paginas);
   const QByteArray pdf = Lee(dir.filePath("s.pdf"));
   EXPECT_TRUE(pdf.startsWith("%PDF") && pdf.trimmed().endsWith("%%EOF"));
   EXPECT_EQ(QString::fromLatin1(pdf).count(QRegularExpression("/Type\\s*/Page(?!s)")), paginas);
-
   for (double zoom : {1.0, 0.5}) {
     const QString patron = dir.filePath(QString("z%1-page%d.png").arg(zoom));
     ASSERT_EQ(Cli({"render", col, "-o", patron, "--zoom", QString::number(zoom)}).obj().value("pages").toInt(), paginas);
@@ -306,18 +274,9 @@ TEST(Cli, RenderDrawsEveryPage) {
       EXPECT_TRUE(tinta) << p;
     }
   }
-}
-
-// Files that cannot be read, and outputs that cannot be written: the
-// program's own message, exit 1, no output, and no file left behind.
-TEST(Cli, FilesThatCannotBeReadOrWrittenExit1AndLeaveNothing) {
-  QTemporaryDir dir, lleno;
-  const QString col = dir.filePath("s.col");
-  ASSERT_EQ(Cli({"new", "--subject", "Chemistry", "--all", "1", "-o", col}).code, 0);
-  Escribe(dir.filePath("text.col"), "just some text, no worksheet\r\n");
-  Escribe(dir.filePath("empty.col"), "");
-  Escribe(dir.filePath("cut.col"), "#CABECERA(#PROPARAM(ANEU#PROPARAM)#CABECERA)");
-  Escribe(dir.filePath("kept.pdf"), "keep me");
+  const QStringList hechos = QDir(dir.path()).entryList(QDir::Files);
+  Escribe(dir.filePath("text.col"), "just some text, no worksheet\r\n"), Escribe(dir.filePath("empty.col"), "");
+  Escribe(dir.filePath("cut.col"), "#CABECERA(#PROPARAM(ANEU#PROPARAM)#CABECERA)"), Escribe(dir.filePath("kept.pdf"), "keep me");
   ss::TextosVentana textos(SS_SOURCE_DIR, "MAI");
   auto texto = [&](const char* clave) { return QString::fromStdString(ss::Cp1252ToUtf8(textos.GetL_win(clave))); };
   const QString invalido = texto("InvalidFile"), noEsta = texto("FileNotFound"), noAbre = texto("FileNotFoundOpen");
@@ -333,7 +292,7 @@ TEST(Cli, FilesThatCannotBeReadOrWrittenExit1AndLeaveNothing) {
       {{"render", col, "-o", "/proc/ss.pdf"}, "cannot write /proc/ss.pdf"},
       {{"render", col, "-o", dir.filePath("missing/p-%d.png")}, "no such folder"},
       {{"new", "--subject", "Chemistry", "--item", "ANEU_QUIM_DIS:1=1", "-o", dir.filePath("missing/x.col")}, ""},
-      {{"markup", "x", "-o", "/proc/ss.png"}, "cannot write /proc/ss.png"},
+      {{"markup", "x", "-o", "/proc/ss.png"}, "cannot write /proc/ss.png"}, {{"catalogue", "--sysedu", "none.sed"}, "none.sed"},
       {{"render", col, "-o", lleno.filePath("kept.pdf")}, montado ? "No space left on device" : ""},
       {{"render", col, "-o", lleno.filePath("p-%d.png"), "--zoom", "0.5"}, montado ? "No space left on device" : ""},
       {{"markup", "x", "-o", lleno.filePath("m.png"), "--zoom", "8"}, montado ? "No space left on device" : ""},
@@ -343,12 +302,11 @@ TEST(Cli, FilesThatCannotBeReadOrWrittenExit1AndLeaveNothing) {
     SCOPED_TRACE(c.args.join(' ').toStdString());
     const Salida r = Cli(c.args);
     EXPECT_EQ(r.code, 1);
-    EXPECT_TRUE(r.out.isEmpty()) << r.out.toStdString();
-    EXPECT_EQ(r.err.count('\n'), 1) << r.err.toStdString();
-    EXPECT_TRUE(r.err.startsWith("error: ") && QString(r.err).contains(c.mensaje)) << r.err.toStdString();
+    EXPECT_TRUE(r.out.isEmpty() && r.err.count('\n') == 1 && r.err.startsWith("error: ") && QString(r.err).contains(c.mensaje))
+        << r.out.toStdString() << r.err.toStdString();
   }
   EXPECT_EQ(Lee(dir.filePath("kept.pdf")), "keep me");
-  EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files).size(), 5);
+  EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files).size(), hechos.size() + 4);
   EXPECT_FALSE(QFileInfo::exists(dir.filePath("missing")));
   if (!montado) GTEST_SKIP() << "no memory disk can be mounted here, so the full disk is not tried";
   EXPECT_EQ(Lee(lleno.filePath("kept.pdf")), "keep me");
