@@ -57,7 +57,8 @@ Argumentos& ConSysedu(Argumentos& a) {
 int ComandoGenerate(const QStringList& args) {
   Argumentos a("generate",
                QStringLiteral(
-                   "Makes one problem and prints {\"statement\", \"solution\"}, its markup in UTF-8.\n"
+                   "Makes one problem and prints it as JSON: \"statement\" and \"solution\", markup\n"
+                   "text in UTF-8.\n"
                    "COMMAND is 16 digits: generator 3, first counter 3, variant 4, items 2,\n"
                    "amount 2, index 2 (0090000003000301: generator 9, variant 3)."));
   a.Posicional(QStringLiteral("MODULE"), QStringLiteral("The module, as in ANEU_QUIM_DIS."))
@@ -234,7 +235,8 @@ int ComandoMarkup(const QStringList& args) {
   Argumentos a("markup",
                QStringLiteral("Sets one markup text on a page (796 by 1125 pixels at zoom 1, margins\n"
                               "of 16 mm) and writes it as a PNG, as the page shows on screen, or as a\n"
-                              "PDF, as it prints."));
+                              "PDF, as it prints. A TEXT that begins with \"-\" comes last, after \"--\":\n"
+                              "sheetsmith-cli markup -o t.png -- \"-5 &.5 K\"."));
   a.Posicional(QStringLiteral("TEXT"), QStringLiteral("The markup text."))
       .Opcion({QStringLiteral("o")}, QStringLiteral("The file to write, ending in .png or .pdf."),
               QStringLiteral("OUT"))

@@ -129,8 +129,8 @@ std::string ACp1252(const QString& texto, const QString& opcion) {
     ss::Utf8ToCp1252(uno.toStdString(), &este);
     if (!este && !perdidos.contains(uno)) perdidos << uno;
   }
-  Aviso(QStringLiteral("%1: a worksheet cannot hold \"%2\" (its texts are Windows-1252); "
-                       "written as \"?\"")
+  Aviso(QStringLiteral("%1: \"%2\" has no form in Windows-1252, the character set of worksheets "
+                       "and problems; written as \"?\"")
             .arg(opcion, perdidos.join(QStringLiteral("\", \""))));
   return r;
 }

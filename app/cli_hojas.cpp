@@ -59,7 +59,8 @@ const QString kNew = QStringLiteral("new");
 int ComandoNew(const QStringList& args) {
   Argumentos a("new",
                QStringLiteral(
-                   "Makes a worksheet as the wizard does and saves it; prints {\"problems\", \"pages\"}.\n"
+                   "Makes a worksheet as the wizard does and saves it; prints its \"problems\" and\n"
+                   "\"pages\" as JSON.\n"
                    "sheetsmith-cli topics --subject NAME lists the items --item can ask for.\n"
                    "Amounts run from 1 to 99; a worksheet holds at most 500 problems. An exercise\n"
                    "has 6 items unless told, never more than its generator gives."));
@@ -191,7 +192,7 @@ int ComandoRender(const QStringList& args) {
                    "Draws every page of a worksheet, each with its title block and page number:\n"
                    "a PDF of all pages as they print, or one PNG a page as it shows on screen,\n"
                    "%d in the name standing for the page number (-o sheet-%d.png gives\n"
-                   "sheet-1.png, sheet-2.png, ...). Prints {\"pages\"}. When a file cannot be\n"
+                   "sheet-1.png, sheet-2.png, ...) and prints {\"pages\": P}. When a file cannot be\n"
                    "written (a full disk) nothing is left behind."));
   a.Posicional(QStringLiteral("FILE.col"), QStringLiteral("The worksheet file."))
       .Opcion({QStringLiteral("o")},
@@ -212,6 +213,7 @@ int ComandoRender(const QStringList& args) {
 
   Trabajo t;
   if (!t.Carga(a.Posicionales()[0])) return 1;
+  // The worksheet is paged: problems taller than a page are known from here on.
   const ss::ColeccionCab& cab = t.doc.col.cab;
   const ss::PintaPagina pinta = [&](int pagina, ss::Canvas& canvas) {
     t.motor.ComponerTexto(ss::TextoPagina(t.doc, pagina), 12, canvas);
