@@ -89,15 +89,6 @@ char16_t MtExtraUnicode(unsigned char b) {
 
 QColor Color(int32_t c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF); }
 
-// Underline and strike-out are drawn as rules by the canvas, so they do not
-// make a face of their own.
-std::string Clave(const EstadoFuente& f) {
-  std::string k = f.nombre;
-  k += '|';
-  k += std::to_string(f.negrita) + std::to_string(f.cursiva);
-  return k;
-}
-
 // A size that Qt and the page can bear: from a tenth of a point to 1000 points.
 double TamanoSensato(double puntos) {
   if (!std::isfinite(puntos)) return 12;
@@ -128,6 +119,12 @@ struct CanvasQt::Metricas {
     tachPos = fm.strikeOutPos();
     grosor = fm.lineWidth();
     nombre = f.nombre;
+    negrita = f.negrita;
+    cursiva = f.cursiva;
+  }
+  // Underline and strike-out are rules the canvas draws: they make no face of their own.
+  bool Es(const EstadoFuente& f) const {
+    return f.negrita == negrita && f.cursiva == cursiva && f.nombre == nombre;
   }
   static QFont Fuente(const EstadoFuente& f) {
     QFont font(Familia(f.nombre));
@@ -160,6 +157,7 @@ struct CanvasQt::Metricas {
   std::array<quint32, 256> glifos{};
   double alto = 0, ascenso = 0, subPos = 0, tachPos = 0, grosor = 0;
   std::string nombre;
+  bool negrita = false, cursiva = false;
 };
 
 CanvasQt::CanvasQt(QPainter* painter, TipoCanvas tipo, double anchoPx, double altoPx)
@@ -187,15 +185,19 @@ QChar CanvasQt::Glifo(const std::string& nombre, unsigned char byte) {
   return s.isEmpty() ? QChar(u'?') : s.front();
 }
 
+// Faces are measured once a thread and shared by all its canvases, so that
+// a page drawn on a new canvas finds its widths and glyphs ready. They are
+// never freed: no font may outlive the application object at exit.
+CanvasQt::Metricas& CanvasQt::Cara(const EstadoFuente& f) {
+  thread_local auto* caras = new std::vector<std::unique_ptr<Metricas>>();
+  for (const auto& m : *caras)
+    if (m->Es(f)) return *m;
+  caras->push_back(std::make_unique<Metricas>(f));
+  return *caras->back();
+}
+
 CanvasQt::Metricas& CanvasQt::Actual() {
-  if (actual_ && fuente.nombre == clave_.nombre && fuente.negrita == clave_.negrita &&
-      fuente.cursiva == clave_.cursiva)
-    return *actual_;
-  const std::string k = Clave(fuente);
-  auto it = cache_.find(k);
-  if (it == cache_.end()) it = cache_.emplace(k, std::make_unique<Metricas>(fuente)).first;
-  clave_ = fuente;
-  actual_ = it->second.get();
+  if (!actual_ || !actual_->Es(fuente)) actual_ = &Cara(fuente);
   return *actual_;
 }
 

@@ -19,7 +19,6 @@
 #include <array>
 #include <memory>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 #include "typeset/canvas.h"
@@ -85,6 +84,7 @@ class CanvasQt final : public Canvas {
   };
 
   Metricas& Actual();
+  static Metricas& Cara(const EstadoFuente& f);
   void Junta(Metricas& m, double escala, std::string_view text);
   void DibujaSuelto(Metricas& m, double escala, double x, unsigned char byte);
   void Sigue(Regla& r, bool activa, bool subrayado, Metricas& m, double escala, double ancho,
@@ -96,8 +96,6 @@ class CanvasQt final : public Canvas {
   QPainter* painter_;
   TipoCanvas tipo_;
   double anchoPx_, altoPx_;
-  std::unordered_map<std::string, std::unique_ptr<Metricas>> cache_;
-  EstadoFuente clave_;
   Metricas* actual_ = nullptr;
   std::vector<Tramo> tramos_;  // the first `usados_` hold glyphs
   std::size_t usados_ = 0;
