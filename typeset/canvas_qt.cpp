@@ -163,7 +163,7 @@ struct CanvasQt::Metricas {
 CanvasQt::CanvasQt(QPainter* painter, TipoCanvas tipo, double anchoPx, double altoPx)
     : painter_(painter), tipo_(tipo), anchoPx_(anchoPx), altoPx_(altoPx) {
   RegistraFuentes();
-  if (painter_) base_ = painter_->worldTransform();
+  if (painter_ && painter_->isActive()) base_ = painter_->worldTransform();
 }
 
 CanvasQt::~CanvasQt() { Flush(); }
@@ -232,7 +232,7 @@ void CanvasQt::Print(std::string_view text) {
 
 // What was gathered under another transform is drawn under that one.
 void CanvasQt::Transformacion() {
-  const QTransform& t = painter_->worldTransform();
+  const QTransform t = painter_->worldTransform();
   if (t == base_) return;
   Flush();
   base_ = t;

@@ -34,7 +34,7 @@ class CanvasQt final : public Canvas {
   // `painter` may be null: then the canvas measures and draws nothing.
   explicit CanvasQt(QPainter* painter, TipoCanvas tipo = TipoCanvas::Oculto,
                     double anchoPx = 796, double altoPx = 1125);
-  // Draws what is gathered; the painter must still be active.
+  // Draws what is gathered, if the painter is still active.
   ~CanvasQt() override;
 
   void Print(std::string_view text) override;
@@ -57,8 +57,8 @@ class CanvasQt final : public Canvas {
   // The character a byte stands for in a font ("Symbol": 'a' is alpha).
   static QChar Glifo(const std::string& nombre, unsigned char byte);
 
-  // Draws the gathered text and rules now, e.g. before the caller draws on
-  // the same painter or ends it.
+  // Draws the gathered text and rules now: before the caller draws on the
+  // same painter itself, starts a new page or ends the painter.
   void Flush();
 
  private:
