@@ -2,6 +2,7 @@
 
 #include <QFontDatabase>
 #include <QFontInfo>
+#include <QGlyphRun>
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
@@ -88,38 +89,48 @@ char16_t MtExtraUnicode(unsigned char b) {
 
 QColor Color(int32_t c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF); }
 
-std::string Clave(const EstadoFuente& f) {
-  std::string k = f.nombre;
-  k += '|';
-  k += std::to_string(f.negrita) + std::to_string(f.cursiva) + std::to_string(f.subrayado) +
-       std::to_string(f.tachado);
-  return k;
-}
-
 // A size that Qt and the page can bear: from a tenth of a point to 1000 points.
 double TamanoSensato(double puntos) {
   if (!std::isfinite(puntos)) return 12;
   return std::clamp(puntos, 0.1, 1000.0);
 }
 
+// The signs the engine sets lower or higher than the text around them.
+bool EsOperador(std::string_view text) {
+  return text.size() == 1 && (text[0] == '+' || text[0] == '=' || text[0] == '\x96');
+}
+
+// Faces of the glyphs waiting at once; more are rare and are drawn first.
+constexpr std::size_t kMaxTramos = 8;
+
+constexpr quint32 kSinBuscar = 0xFFFFFFFF;
+
 }  // namespace
 
-// The metrics of one font (at the reference size) and its character widths.
+// The metrics of one face (at the reference size), its character widths and
+// its glyphs.
 struct CanvasQt::Metricas {
   explicit Metricas(const EstadoFuente& f) : font(Fuente(f)), fm(font) {
     anchos.fill(-1);
+    glifos.fill(kSinBuscar);
     alto = fm.height();
     ascenso = fm.ascent();
-    simbolo = EsSymbol(f.nombre) ? 1 : EsMtExtra(f.nombre) ? 2 : 0;
+    subPos = fm.underlinePos();
+    tachPos = fm.strikeOutPos();
+    grosor = fm.lineWidth();
     nombre = f.nombre;
+    negrita = f.negrita;
+    cursiva = f.cursiva;
+  }
+  // Underline and strike-out are rules the canvas draws: they make no face of their own.
+  bool Es(const EstadoFuente& f) const {
+    return f.negrita == negrita && f.cursiva == cursiva && f.nombre == nombre;
   }
   static QFont Fuente(const EstadoFuente& f) {
     QFont font(Familia(f.nombre));
     font.setPixelSize(static_cast<int>(kRef));
     font.setBold(f.negrita);
     font.setItalic(f.cursiva);
-    font.setUnderline(f.subrayado);
-    font.setStrikeOut(f.tachado);
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setKerning(false);
     return font;
@@ -129,20 +140,33 @@ struct CanvasQt::Metricas {
     if (w < 0) w = fm.horizontalAdvance(Glifo(nombre, b));
     return w;
   }
+  // The glyph of a byte in this face; 0 when the face has none.
+  quint32 Indice(unsigned char b) {
+    quint32& g = glifos[b];
+    if (g == kSinBuscar) {
+      if (!raw.isValid()) raw = QRawFont::fromFont(font);
+      const QList<quint32> gs = raw.glyphIndexesForString(QString(Glifo(nombre, b)));
+      g = gs.size() == 1 ? gs.front() : 0;
+    }
+    return g;
+  }
   QFont font;
   QFontMetricsF fm;
+  QRawFont raw;
   std::array<double, 256> anchos{};
-  double alto = 0, ascenso = 0;
-  int simbolo = 0;
+  std::array<quint32, 256> glifos{};
+  double alto = 0, ascenso = 0, subPos = 0, tachPos = 0, grosor = 0;
   std::string nombre;
+  bool negrita = false, cursiva = false;
 };
 
 CanvasQt::CanvasQt(QPainter* painter, TipoCanvas tipo, double anchoPx, double altoPx)
     : painter_(painter), tipo_(tipo), anchoPx_(anchoPx), altoPx_(altoPx) {
   RegistraFuentes();
+  if (painter_ && painter_->isActive()) base_ = painter_->worldTransform();
 }
 
-CanvasQt::~CanvasQt() = default;
+CanvasQt::~CanvasQt() { Flush(); }
 
 QString CanvasQt::Familia(const std::string& nombre) {
   const std::string n = UCase(Trim(nombre));
@@ -161,16 +185,19 @@ QChar CanvasQt::Glifo(const std::string& nombre, unsigned char byte) {
   return s.isEmpty() ? QChar(u'?') : s.front();
 }
 
+// Faces are measured once a thread and shared by all its canvases, so that
+// a page drawn on a new canvas finds its widths and glyphs ready. They are
+// never freed: no font may outlive the application object at exit.
+CanvasQt::Metricas& CanvasQt::Cara(const EstadoFuente& f) {
+  thread_local auto* caras = new std::vector<std::unique_ptr<Metricas>>();
+  for (const auto& m : *caras)
+    if (m->Es(f)) return *m;
+  caras->push_back(std::make_unique<Metricas>(f));
+  return *caras->back();
+}
+
 CanvasQt::Metricas& CanvasQt::Actual() {
-  if (actual_ && fuente.nombre == clave_.nombre && fuente.negrita == clave_.negrita &&
-      fuente.cursiva == clave_.cursiva && fuente.subrayado == clave_.subrayado &&
-      fuente.tachado == clave_.tachado)
-    return *actual_;
-  const std::string k = Clave(fuente);
-  auto it = cache_.find(k);
-  if (it == cache_.end()) it = cache_.emplace(k, std::make_unique<Metricas>(fuente)).first;
-  clave_ = fuente;
-  actual_ = it->second.get();
+  if (!actual_ || !actual_->Es(fuente)) actual_ = &Cara(fuente);
   return *actual_;
 }
 
@@ -195,23 +222,140 @@ void CanvasQt::Print(std::string_view text) {
   double ancho = 0;
   for (char ch : text) ancho += m.Ancho(static_cast<unsigned char>(ch));
   if (painter_ && !text.empty()) {
-    QString s;
-    s.reserve(static_cast<qsizetype>(text.size()));
-    for (char ch : text) s.append(Glifo(m.nombre, static_cast<unsigned char>(ch)));
-    painter_->save();
-    painter_->translate(CurrentX, CurrentY);
-    painter_->scale(escala, escala);
-    painter_->setFont(m.font);
-    painter_->setPen(Color(ForeColor));
-    painter_->drawText(QPointF(0, m.ascenso), s);
-    painter_->restore();
+    Transformacion();
+    Sigue(subrayado_, fuente.subrayado, true, m, escala, ancho, text);
+    Sigue(tachado_, fuente.tachado, false, m, escala, ancho, text);
+    Junta(m, escala, text);
   }
   CurrentX += ancho * escala;
 }
 
+// What was gathered under another transform is drawn under that one.
+void CanvasQt::Transformacion() {
+  const QTransform t = painter_->worldTransform();
+  if (t == base_) return;
+  Flush();
+  base_ = t;
+}
+
+void CanvasQt::Junta(Metricas& m, double escala, std::string_view text) {
+  Tramo* t = nullptr;
+  for (std::size_t i = usados_; i-- > 0;)
+    if (tramos_[i].m == &m && tramos_[i].escala == escala && tramos_[i].color == ForeColor) {
+      t = &tramos_[i];
+      break;
+    }
+  if (!t) {
+    if (usados_ == kMaxTramos) VuelcaTramos();
+    if (usados_ == tramos_.size()) tramos_.emplace_back();
+    t = &tramos_[usados_++];
+    t->m = &m;
+    t->escala = escala;
+    t->color = ForeColor;
+  }
+  double x = CurrentX;
+  const double y = CurrentY / escala + m.ascenso;
+  for (char ch : text) {
+    const auto b = static_cast<unsigned char>(ch);
+    if (const quint32 g = m.Indice(b)) {
+      t->glifos.push_back(g);
+      t->posiciones.emplace_back(x / escala, y);
+    } else {
+      DibujaSuelto(m, escala, x, b);
+    }
+    x += m.Ancho(b) * escala;
+  }
+}
+
+// A character the face has no glyph for: the painter finds one in another font.
+void CanvasQt::DibujaSuelto(Metricas& m, double escala, double x, unsigned char byte) {
+  if (!painter_->isActive()) return;
+  painter_->save();
+  painter_->translate(x, CurrentY);
+  painter_->scale(escala, escala);
+  painter_->setFont(m.font);
+  painter_->setPen(Color(ForeColor));
+  painter_->drawText(QPointF(0, m.ascenso), QString(Glifo(m.nombre, byte)));
+  painter_->restore();
+}
+
+void CanvasQt::VuelcaTramos() {
+  if (usados_ > 0 && painter_->isActive()) {
+    const QTransform actual = painter_->worldTransform();
+    QGlyphRun run;
+    for (std::size_t i = 0; i < usados_; ++i) {
+      const Tramo& t = tramos_[i];
+      if (t.glifos.empty()) continue;
+      painter_->setWorldTransform(QTransform::fromScale(t.escala, t.escala) * base_);
+      const QPen pen(Color(t.color));
+      if (painter_->pen() != pen) painter_->setPen(pen);
+      run.setRawFont(t.m->raw);
+      run.setRawData(t.glifos.data(), t.posiciones.data(), static_cast<int>(t.glifos.size()));
+      painter_->drawGlyphRun(QPointF(), run);
+    }
+    painter_->setWorldTransform(actual);
+  }
+  for (std::size_t i = 0; i < usados_; ++i) {
+    tramos_[i].glifos.clear();
+    tramos_[i].posiciones.clear();
+  }
+  usados_ = 0;
+}
+
+// Carries the rule on under this text, or ends it. The rule keeps one height:
+// that of the largest text in it, and of a letter rather than a shifted sign.
+void CanvasQt::Sigue(Regla& r, bool activa, bool subrayado, Metricas& m, double escala,
+                     double ancho, std::string_view text) {
+  if (!activa) {
+    Cierra(r);
+    return;
+  }
+  const double base = CurrentY + m.ascenso * escala;
+  if (r.activa && (r.color != ForeColor || CurrentX < r.x2 - 1 ||
+                   std::fabs(base - r.base) > r.tolerancia))
+    Cierra(r);
+  const bool operador = EsOperador(text);
+  const bool altura = !r.activa || escala > r.escala * 1.001 ||
+                      (escala > r.escala * 0.999 && r.deOperador && !operador);
+  if (!r.activa) {
+    r.activa = true;
+    r.x1 = CurrentX;
+    r.color = ForeColor;
+  }
+  r.x2 = CurrentX + ancho * escala;
+  if (altura) {
+    r.base = base;
+    r.escala = escala;
+    r.deOperador = operador;
+    r.tolerancia = m.alto * escala / 2;
+    r.y = base + (subrayado ? m.subPos : -m.tachPos) * escala;
+    r.grosor = m.grosor * escala;
+  }
+}
+
+void CanvasQt::Cierra(Regla& r) {
+  if (!r.activa) return;
+  r.activa = false;
+  if (!painter_->isActive() || r.x2 <= r.x1) return;
+  const QTransform actual = painter_->worldTransform();
+  if (actual != base_) painter_->setWorldTransform(base_);
+  // Never thinner than a device pixel, or the screen would lose it.
+  const double pixel = 1 / std::sqrt(std::fabs(base_.determinant()));
+  const double g = std::max(r.grosor, std::isfinite(pixel) ? pixel : 0.0);
+  painter_->fillRect(QRectF(r.x1, r.y - g / 2, r.x2 - r.x1, g), Color(r.color));
+  if (actual != base_) painter_->setWorldTransform(actual);
+}
+
+void CanvasQt::Flush() {
+  if (!painter_) return;
+  VuelcaTramos();
+  Cierra(subrayado_);
+  Cierra(tachado_);
+}
+
 void CanvasQt::Line(double x1, double y1, double x2, double y2, int32_t color, ModoLinea modo) {
   if (!painter_) return;
-  painter_->save();
+  Flush();
   QPen pen(Color(color));
   pen.setWidthF(std::max(1, DrawWidth) * TwipsPerPixelX());
   pen.setCapStyle(Qt::FlatCap);
@@ -225,12 +369,11 @@ void CanvasQt::Line(double x1, double y1, double x2, double y2, int32_t color, M
       break;
     case ModoLinea::CajaLlena: painter_->fillRect(r, Color(color)); break;
   }
-  painter_->restore();
 }
 
 void CanvasQt::Circle(double x, double y, double radius, int32_t color, double start, double end) {
   if (!painter_) return;
-  painter_->save();
+  Flush();
   QPen pen(Color(color));
   pen.setWidthF(std::max(1, DrawWidth) * TwipsPerPixelX());
   painter_->setPen(pen);
@@ -246,12 +389,12 @@ void CanvasQt::Circle(double x, double y, double radius, int32_t color, double s
     painter_->drawArc(r, static_cast<int>(std::lround(a * 180 / std::numbers::pi * 16)),
                       static_cast<int>(std::lround(span * 180 / std::numbers::pi * 16)));
   }
-  painter_->restore();
 }
 
 void CanvasQt::PaintPicture(const std::string& path, double x, double y, double width,
                             double height) {
   if (!painter_) return;
+  Flush();
   const QImage image(QString::fromStdString(path));
   if (image.isNull()) return;
   painter_->drawImage(QRectF(x, y, width, height), image);

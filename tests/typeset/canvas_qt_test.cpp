@@ -2,79 +2,150 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include <QImage>
 #include <QPainter>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include "typeset/motor.h"
+#include "typeset/salida.h"
 
 namespace ss {
 namespace {
 
-TEST(CanvasQt, TheClassicFontsResolveToTheirMetricTwins) {
+TEST(CanvasQt, SymbolBytesBecomeTheirSigns) {
+  const std::tuple<const char*, unsigned char, char16_t> cases[] = {
+      {"Symbol", 'a', u'α'},  {"Symbol", 'D', u'Δ'},  {"Symbol", 'j', u'ϕ'},
+      {"Symbol", 174, u'→'},  {"Symbol", 163, u'≤'},  {"Symbol", 242, u'∫'},
+      {"MT Extra", 'U', u'∪'}, {"MT Extra", 'h', u'ℏ'}, {"Times New Roman", 150, u'–'},
+      {"Arial", 0x80, u'€'},  {"Arial", 'a', u'a'}};
+  for (const auto& [fuente, byte, glifo] : cases)
+    EXPECT_EQ(CanvasQt::Glifo(fuente, byte), QChar(glifo)) << fuente << " " << int(byte);
+}
+
+TEST(CanvasQt, MetricsComeFromTheTwinsAndScaleWithTheSize) {
   EXPECT_TRUE(RegistraFuentes());
   EXPECT_EQ(CanvasQt::Familia("Times New Roman"), "Liberation Serif");
   EXPECT_EQ(CanvasQt::Familia("arial"), "Liberation Sans");
   EXPECT_EQ(CanvasQt::Familia("Courier New"), "Liberation Mono");
-}
-
-TEST(CanvasQt, SymbolBytesBecomeTheirSigns) {
-  struct Case {
-    const char* fuente;
-    unsigned char byte;
-    char16_t glifo;
-  } cases[] = {{"Symbol", 'a', u'α'}, {"Symbol", 'D', u'Δ'}, {"Symbol", 'j', u'ϕ'},
-               {"Symbol", 174, u'→'}, {"Symbol", 163, u'≤'}, {"Symbol", 242, u'∫'},
-               {"MT Extra", 'U', u'∪'}, {"MT Extra", 'h', u'ℏ'},
-               {"Times New Roman", 150, u'–'}, {"Arial", 0x80, u'€'}, {"Arial", 'a', u'a'}};
-  for (const auto& c : cases)
-    EXPECT_EQ(CanvasQt::Glifo(c.fuente, c.byte), QChar(c.glifo)) << c.fuente << " " << int(c.byte);
-}
-
-TEST(CanvasQt, MetricsScaleWithTheSizeAndAddUpByCharacter) {
   CanvasQt c(nullptr);
-  c.fuente.tamano = 12;
-  const double a = c.TextWidth("a"), b = c.TextWidth("b");
-  EXPECT_GT(a, 50);
-  EXPECT_LT(a, 200);
-  EXPECT_DOUBLE_EQ(c.TextWidth("ab"), a + b);
-  const double h = c.TextHeight("Hp");
+  const double a = c.TextWidth("a"), h = c.TextHeight("Hp");
   const double asc = c.FontAscent() * c.TwipsPerPixelY();
-  EXPECT_GT(asc, 0.5 * h);
-  EXPECT_LT(asc, h);
+  EXPECT_NEAR(h, 276, 20);  // 12-point Times is about 240 twips high with its leading
+  EXPECT_TRUE(a > 50 && a < 200) << a;
+  EXPECT_TRUE(asc > 0.5 * h && asc < h) << asc;
+  EXPECT_DOUBLE_EQ(c.TextWidth("ab"), a + c.TextWidth("b"));
   c.fuente.tamano = 24;
   EXPECT_NEAR(c.TextWidth("a"), 2 * a, 1e-9);
   EXPECT_NEAR(c.TextHeight("Hp"), 2 * h, 1e-9);
   c.fuente.negrita = true;
-  EXPECT_GT(c.TextWidth("m"), CanvasQt(nullptr).TextWidth("m"));
-  // 12-point Times is about 240 twips high with its leading.
-  CanvasQt d(nullptr);
-  EXPECT_NEAR(d.TextHeight("Hp"), 276, 20);
+  EXPECT_GT(c.TextWidth("m"), 2 * CanvasQt(nullptr).TextWidth("m"));
 }
 
-TEST(CanvasQt, DrawsInkWhereThePenIs) {
-  QImage image(200, 100, QImage::Format_RGB32);
-  image.fill(Qt::white);
+// Text through the canvas looks as text drawn piece by piece with drawText
+// at the pen positions, also when the caller restores its transform before
+// the canvas goes; a rule of width 1 is one pixel high.
+TEST(CanvasQt, TextLooksAsDrawnPieceByPieceAtThePen) {
+  // Font, points, bold, italic, red, text, shift down.
+  const std::tuple<const char*, double, bool, bool, int, const char*, double> piezas[] = {
+      {"Times New Roman", 12, 0, 0, 0, "Find \x80 caf\xE9 ", 0},
+      {"Times New Roman", 12, 0, 1, 0, "x", 0}, {"Symbol", 12, 0, 0, 0, "aD", 0},
+      {"Times New Roman", 8, 0, 0, 0, "2", 60}, {"Times New Roman", 12, 0, 0, 0, " +\x96 ", 20},
+      {"Arial", 18, 1, 0, 255, "CO", 0}};
+  QImage hecha(400, 60, QImage::Format_RGB32);
+  hecha.fill(Qt::white);
+  QImage patron = hecha;
+  QPainter pc(&hecha), pr(&patron);
+  pr.scale(1.0 / 15, 1.0 / 15);
+  pr.fillRect(QRectF(90, 600 - 7.5, 4910, 15), Qt::black);
   {
-    QPainter painter(&image);
-    painter.scale(1.0 / 15, 1.0 / 15);
-    CanvasQt c(&painter, TipoCanvas::Pantalla);
-    c.CurrentX = 150;
-    c.CurrentY = 150;
-    c.ForeColor = 255;
-    c.fuente.tamano = 24;
-    c.Print("H");
-    EXPECT_GT(c.CurrentX, 150);
-    c.Line(0, 1200, 2900, 1200, 0, ModoLinea::Linea);
-  }
-  int rojos = 0, negros = 0;
-  for (int y = 0; y < image.height(); ++y)
-    for (int x = 0; x < image.width(); ++x) {
-      const QColor p = image.pixelColor(x, y);
-      if (p.red() > 150 && p.green() < 100) ++rojos;
-      if (p.red() < 80 && p.green() < 80 && p.blue() < 80) ++negros;
+    pc.save();
+    pc.scale(1.0 / 15, 1.0 / 15);
+    CanvasQt c(&pc, TipoCanvas::Pantalla);
+    c.CurrentX = 90;
+    for (const auto& [fuente, puntos, negrita, cursiva, rojo, texto, dy] : piezas) {
+      c.fuente = EstadoFuente{fuente, puntos, negrita, cursiva};
+      c.ForeColor = rojo;
+      c.CurrentY = 150 + dy;
+      const double x = c.CurrentX, ancho = c.TextWidth(texto);
+      c.Print(texto);
+      EXPECT_NEAR(c.CurrentX, x + ancho, 1e-9) << texto;
+      QFont f(CanvasQt::Familia(fuente), -1, negrita ? QFont::Bold : QFont::Normal, cursiva);
+      f.setPixelSize(1000);
+      f.setHintingPreference(QFont::PreferNoHinting);
+      f.setKerning(false);
+      QString s;
+      for (unsigned char b : std::string_view(texto)) s += CanvasQt::Glifo(fuente, b);
+      pr.save();
+      pr.translate(x, c.CurrentY);
+      pr.scale(puntos / 50, puntos / 50);
+      pr.setFont(f);
+      pr.setPen(QColor(rojo, 0, 0));
+      pr.drawText(QPointF(0, QFontMetricsF(f).ascent()), s);
+      pr.restore();
     }
-  EXPECT_GT(rojos, 20);   // the red H
-  EXPECT_GT(negros, 150); // the rule across
+    c.Line(90, 600, 5000, 600, 0, ModoLinea::Linea);
+    pc.restore();
+  }
+  pc.end();
+  pr.end();
+  int tinta = 0, distintos = 0;
+  for (int y = 0; y < patron.height(); ++y)
+    for (int x = 0; x < patron.width(); ++x) {
+      const QRgb a = hecha.pixel(x, y), b = patron.pixel(x, y);
+      tinta += qGreen(b) < 128;
+      distintos += std::abs(qRed(a) - qRed(b)) > 16 || std::abs(qGreen(a) - qGreen(b)) > 16;
+    }
+  EXPECT_GT(tinta, 600);
+  EXPECT_EQ(distintos, 0);
+}
+
+// Underline and strike-out make one straight rule from the first to the last
+// character, although "+" and "=" sit lower and the signs have gaps around them.
+TEST(CanvasQt, UnderlineAndStrikeOutAreOneRulePerRun) {
+  for (const char* texto : {"&+Ux + y = 3&-U", "&+Sx + y = 3&-S"}) {
+    QImage image(800, 160, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    {
+      QPainter painter(&image);
+      painter.scale(1.0 / 15, 1.0 / 15);
+      CanvasQt c(&painter, TipoCanvas::Pantalla);
+      Motor().ComponerTexto(texto, 48, c);
+    }
+    auto oscuro = [&](int x, int y) { return qGray(image.pixel(x, y)) < 128; };
+    int x0 = image.width(), x1 = -1;  // the ink's first and last columns
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x)
+        if (oscuro(x, y)) x0 = std::min(x0, x), x1 = std::max(x1, x);
+    bool regla = false;
+    for (int y = 0; y < image.height(); ++y) {
+      int x = x0 + 1;
+      while (x < x1 && oscuro(x, y)) ++x;
+      regla = regla || x == x1;
+    }
+    EXPECT_TRUE(regla) << texto;
+  }
+}
+
+// A PDF keeps its words, Greek letters and signs as their Unicode characters.
+TEST(CanvasQt, PdfTextCanBeSearched) {
+  if (QStandardPaths::findExecutable("pdftotext").isEmpty()) GTEST_SKIP() << "no pdftotext";
+  QTemporaryDir dir;
+  const QString pdf = dir.filePath("t.pdf");
+  QString error;
+  ASSERT_TRUE(EscribePdf(pdf, 1, [](int, Canvas& c) {
+    Motor().ComponerTexto("Find &+Uthe mass&-U of CaCO_3 &alfa &Delta &ars &pm 2&.5 caf\xE9 \x80 "
+                          "5 \x96 3&LF&+Bbold&-B &+Iitalic&-I", 12, c);
+  }, &error)) << error.toStdString();
+  QProcess p;
+  p.start("pdftotext", {"-enc", "UTF-8", pdf, "-"});
+  ASSERT_TRUE(p.waitForFinished());
+  const QString texto = QString::fromUtf8(p.readAllStandardOutput()).simplified();
+  for (const char* palabras : {"Find the mass of CaCO3", "α Δ → ± 2.5 café € 5 – 3", "bold italic"})
+    EXPECT_TRUE(texto.contains(QString::fromUtf8(palabras))) << palabras << texto.toStdString();
 }
 
 }  // namespace
