@@ -137,7 +137,9 @@ TEST(Cli, CatalogueListsEveryGeneratorUnderItsTopic) {
       if (modules.isEmpty() || modules.back() != module) modules << module;
       claves << rec.mid(6, 65).trimmed() + rec.left(6);
       rec.at(231) == '5' ? ++headings : ++details;
-      if (rec.at(231) != '5') EXPECT_FALSE(rec.mid(151, 80).trimmed().isEmpty() || rec.mid(238, 160).trimmed().isEmpty());
+      if (rec.at(231) != '5') {
+        EXPECT_FALSE(rec.mid(151, 80).trimmed().isEmpty() || rec.mid(238, 160).trimmed().isEmpty());
+      }
     }
     if (sysedu.isEmpty()) {
       EXPECT_EQ(QList<qsizetype>({details, headings, modules.size(), QSet<QString>(modules.begin(), modules.end()).size()}), QList<qsizetype>({105, 14, 10, 10}));
@@ -219,8 +221,9 @@ TEST(Cli, ASheetFromTopicsAloneReadsBackThroughInfo) {
     EXPECT_TRUE(QRegularExpression(QString::asprintf("^%03d\\d{13}$", rutinas[k])).match(p["command"].toString()).hasMatch());
     EXPECT_FALSE(p["statement"].toString().isEmpty() || p["statement"].toString().contains("ERROR"));
     EXPECT_TRUE(p["solution"].toString().endsWith("&LF"));
-    if (ordenes[k] > 1)
+    if (ordenes[k] > 1) {
       for (const char* contador : {"Semilla", "NumVariante"}) EXPECT_EQ(p[contador].toInt(), problemas[k - 1][contador].toInt() + 1);
+    }
   }
 }
 
@@ -280,8 +283,8 @@ TEST(Cli, RenderWritesEveryPageOrNothing) {
   ss::TextosVentana textos(SS_SOURCE_DIR, "MAI");
   auto texto = [&](const char* clave) { return QString::fromStdString(ss::Cp1252ToUtf8(textos.GetL_win(clave))); };
   const QString invalido = texto("InvalidFile"), noEsta = texto("FileNotFound"), noAbre = texto("FileNotFoundOpen");
-  // A tiny memory disk that a worksheet's pages overflow.
-  const bool montado = QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=64k", "tmpfs", lleno.path()}) == 0;
+  // A memory disk of two blocks: the kept file fills one, and no worksheet fits the other.
+  const bool montado = QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=8k", "tmpfs", lleno.path()}) == 0;
   if (montado) Escribe(lleno.filePath("kept.pdf"), "keep me");
   const struct { QStringList args; QString mensaje; } casos[] = {
       {{"info", dir.filePath("text.col")}, invalido}, {{"info", dir.filePath("empty.col")}, invalido},
