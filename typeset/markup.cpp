@@ -114,12 +114,14 @@ std::string ExtraeBloque(std::string_view texto, std::string_view apertura,
                          std::string_view cierre, bool* valido) {
   if (valido) *valido = false;
   const std::size_t inicio = texto.find(apertura);
-  if (inicio != std::string_view::npos && !cierre.empty()) {
-    // One walk from the open tag: every tag met is an open or a close, and a
-    // close wins where both start at the same place.
+  if (inicio != std::string_view::npos && !apertura.empty() && !cierre.empty() &&
+      texto.find(cierre, inicio + apertura.size()) != std::string_view::npos) {
+    // One walk from the open tag, from one possible tag to the next: every
+    // tag met is an open or a close, and a close wins where both start.
+    const char marcas[] = {apertura.front(), cierre.front(), '\0'};
     int nivel = 1;
     std::size_t p = inicio + apertura.size();
-    while (p < texto.size()) {
+    while ((p = texto.find_first_of(marcas, p)) != std::string_view::npos) {
       const std::string_view resto = texto.substr(p);
       if (resto.starts_with(cierre)) {
         p += cierre.size();
@@ -127,7 +129,7 @@ std::string ExtraeBloque(std::string_view texto, std::string_view apertura,
           if (valido) *valido = true;
           return std::string(texto.substr(inicio, p - inicio));
         }
-      } else if (!apertura.empty() && resto.starts_with(apertura)) {
+      } else if (resto.starts_with(apertura)) {
         ++nivel;
         p += apertura.size();
       } else {
