@@ -412,14 +412,16 @@ std::string Motor::InterpretaTexto(std::string_view texto) {
         ++p;
       }
     } else if (ch == '-') {
-      const bool entreLetras = i > 0 && i + 1 < n && EsLetra(static_cast<unsigned char>(texto[i - 1])) &&
+      const bool entreLetras = i > 0 && i + 1 < n &&
+                               EsLetra(static_cast<unsigned char>(texto[i - 1])) &&
                                EsLetra(static_cast<unsigned char>(texto[i + 1]));
       caracter(entreLetras ? kGuion : kRaya);
     } else {
       caracter(static_cast<unsigned char>(ch));
     }
 
-    if (!PasoDibujo && miCaja == 1) {  // only a line breaks; an argument is set whole
+    // Only a line breaks, and not once it has stopped; an argument is set whole.
+    if (!PasoDibujo && miCaja == 1 && !lineaRota_) {
       if (ancho() + Sangria + MargenIzq + MargenDer > AnchoPagina) {
         corte = std::string(texto.substr(0, ultimoCorte != 0 ? ultimoCorte : std::min(p, n)));
         break;
