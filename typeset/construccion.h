@@ -62,6 +62,7 @@ class Paso {
   void Escribe(Caja caja, std::string_view bloque);
 
   double Tamano() const { return tamano_; }
+  const std::string& Nombre() const { return nombre_; }
 
  private:
   double FactorReduccion(Reduccion r) const;

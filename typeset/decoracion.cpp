@@ -21,7 +21,8 @@ void Decoracion(Motor& m, std::string_view bloque, int caja) {
     Caja own;
     own.Adelanto = A.Adelanto + t;
     own.Ancho = A.Ancho + t;
-    own.Sobre = A.Sobre + t;
+    // The raised harpoon stands above the argument: the box holds its barb.
+    own.Sobre = A.Sobre + (tag == "VED" ? 1.33 * a + t : t);
     own.Eje = A.Eje;
     own.Alto = A.Alto + t;
     p.Escribe(own, bloque);
@@ -42,7 +43,7 @@ void Decoracion(Motor& m, std::string_view bloque, int caja) {
   const double medio = (lx + rx) / 2;
 
   if (tag == "VEC" || tag == "VED") {
-    const double y = ty + (tag == "VEC" ? a / 2 : 1.33 * a);
+    const double y = tag == "VEC" ? ty + a / 2 : ty - 0.33 * a;
     raya(lx, y, rx, y);
     raya(rx, y, rx - a, y - a);
   } else if (tag == "AND") {

@@ -98,12 +98,21 @@ void Nes(Motor& m, std::string_view bloque, int caja) {
     Delimitador(p, der, p.X0 + a.Ancho + 2 * u + t / 2, arriba, alto, u, t, color);
 }
 
-// An integral sign of double size before its argument.
+// An integral sign of double size before its argument. The sign takes the
+// room of its own advance when the font at hand draws it wider than `a`, so
+// that its ink ends before the argument starts.
 void Int(Motor& m, std::string_view bloque, int caja) {
   Paso p(m, caja);
-  const double a = p.Largo(0.6, 1);
   const double b = p.Largo(0.4, 1);
   const std::string contenido(Interior(bloque));
+  p.c.fuente.nombre = "Symbol";
+  p.c.fuente.tamano = p.Tamano() * 2;
+  const bool cursiva = p.c.fuente.cursiva;
+  p.c.fuente.cursiva = false;
+  const double a = std::max(p.Largo(0.6, 1), p.c.TextWidth("\xF2"));
+  p.c.fuente.cursiva = cursiva;
+  p.c.fuente.nombre = p.Nombre();
+  p.c.fuente.tamano = p.Tamano();
   if (!p.dibujo) {
     const Caja& A = p.Mide(0, contenido);
     Caja own;

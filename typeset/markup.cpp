@@ -113,28 +113,31 @@ int32_t LeeColor(std::string_view texto) {
 std::string ExtraeBloque(std::string_view texto, std::string_view apertura,
                          std::string_view cierre, bool* valido) {
   if (valido) *valido = false;
-  std::string preset = std::string(apertura) + "&FC=Rojo:*ERROR*&FC=Negro:" + std::string(cierre);
   const std::size_t inicio = texto.find(apertura);
-  if (inicio == std::string_view::npos || texto.find(cierre) == std::string_view::npos)
-    return preset;
-  int nivel = 1;
-  std::size_t p = inicio + apertura.size();
-  for (;;) {
-    const std::size_t c = texto.find(cierre, p);
-    if (c == std::string_view::npos) return preset;
-    const std::size_t a = texto.find(apertura, p);
-    if (a != std::string_view::npos && a < c) {
-      ++nivel;
-      p = a + apertura.size();
-      continue;
-    }
-    --nivel;
-    p = c + cierre.size();
-    if (nivel == 0) {
-      if (valido) *valido = true;
-      return std::string(texto.substr(inicio, p - inicio));
+  if (inicio != std::string_view::npos && !apertura.empty() && !cierre.empty() &&
+      texto.find(cierre, inicio + apertura.size()) != std::string_view::npos) {
+    // One walk from the open tag, from one possible tag to the next: every
+    // tag met is an open or a close, and a close wins where both start.
+    const char marcas[] = {apertura.front(), cierre.front(), '\0'};
+    int nivel = 1;
+    std::size_t p = inicio + apertura.size();
+    while ((p = texto.find_first_of(marcas, p)) != std::string_view::npos) {
+      const std::string_view resto = texto.substr(p);
+      if (resto.starts_with(cierre)) {
+        p += cierre.size();
+        if (--nivel == 0) {
+          if (valido) *valido = true;
+          return std::string(texto.substr(inicio, p - inicio));
+        }
+      } else if (resto.starts_with(apertura)) {
+        ++nivel;
+        p += apertura.size();
+      } else {
+        ++p;
+      }
     }
   }
+  return std::string(apertura) + "&FC=Rojo:*ERROR*&FC=Negro:" + std::string(cierre);
 }
 
 }  // namespace ss

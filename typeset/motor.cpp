@@ -10,7 +10,14 @@
 namespace ss {
 namespace {
 
-constexpr unsigned char kRaya = 150;  // what a "-" is drawn as
+constexpr unsigned char kRaya = 150;   // what a "-" is drawn as: the minus sign
+constexpr unsigned char kGuion = '-';  // ... unless it joins two letters: a hyphen
+
+// A letter of the text's one-byte encoding, accented ones included.
+bool EsLetra(unsigned char ch) {
+  return (ch >= 'A' && ch <= 'Z') || (ch >= 'a' && ch <= 'z') ||
+         (ch >= 192 && ch != 215 && ch != 247);
+}
 
 // Vertical shift of "+", the dash and "=" as a fraction of H, by size class.
 double DesplazamientoOperador(unsigned char ch, int clase) {
@@ -74,7 +81,10 @@ Construccion Motor::BuscaConstruccion(std::string_view tag) const {
 
 const Caja& Motor::Argumento(int caja, int k, std::string_view texto) {
   static const Caja kVacia{};
-  if (NumCaja >= kMaxCajas) return kVacia;  // past the table: the argument is left out
+  if (NumCaja >= kMaxCajas) {  // past the table: the argument is left out, the line stops
+    lineaRota_ = true;
+    return kVacia;
+  }
   ++NumCaja;
   if (k >= 0 && k < kMaxArgumentos) HijoCaja[caja][k] = NumCaja;
   const int mia = NumCaja;
@@ -85,6 +95,7 @@ const Caja& Motor::Argumento(int caja, int k, std::string_view texto) {
 std::string Motor::InterpretaTexto(std::string_view texto) {
   Canvas& c = *canvas;
   const int miCaja = NumCaja;
+  if (miCaja == 1) lineaRota_ = false;  // a line starts
   double inicioX = 0, inicioY = 0;
   if (PasoDibujo) {
     Cajas[miCaja].PosX = inicioX = c.CurrentX;
@@ -105,6 +116,9 @@ std::string Motor::InterpretaTexto(std::string_view texto) {
   double anchoTexto = 0;
   int desdeSeg = 0;
   std::size_t ultimoCorte = 0;
+  // Constructs met at this level, counted alike in both passes so that both
+  // stop at the same one.
+  int construcciones = 0;
 
   auto ancho = [&] {
     double w = anchoTexto;
@@ -154,7 +168,8 @@ std::string Motor::InterpretaTexto(std::string_view texto) {
     }
     c.fuente.cursiva = cursiva;
     c.fuente.tamano = tamanoActual;
-    if (sub && seg[0].Alto < H * 1.1) seg[0].Alto = H * 1.1;
+    // A blank in small size (the thin space between groups of digits) lowers nothing.
+    if (sub && ch != ' ' && seg[0].Alto < H * 1.1) seg[0].Alto = H * 1.1;
   };
 
   // After a change of font: measure anew and keep the baseline where it was.
@@ -173,7 +188,7 @@ std::string Motor::InterpretaTexto(std::string_view texto) {
   };
 
   const std::size_t n = texto.size();
-  for (std::size_t p = 1; p <= n; ++p) {
+  for (std::size_t p = 1; p <= n && !lineaRota_; ++p) {
     const std::size_t i = p - 1;
     const char ch = texto[i];
     bool corteSuave = false;
@@ -191,12 +206,17 @@ std::string Motor::InterpretaTexto(std::string_view texto) {
         }
         p += 8;
       } else if (resto.size() >= 5 && resto[4] == '(' && EsTagConstruccion(resto.substr(1, 3))) {
+        // Past the limits the line stops here, before any search for the close.
+        if (construcciones >= kMaxConstruccionesLinea || NumCaja >= kMaxCajas) {
+          lineaRota_ = true;
+          break;
+        }
+        ++construcciones;
         const std::string_view tag = resto.substr(1, 3);
-        const std::string apertura(resto.substr(0, 5));
+        const std::string_view apertura = resto.substr(0, 5);
         const std::string cierre = "#" + std::string(tag) + ")";
         bool valido = false;
         const std::string bloque = ExtraeBloque(resto, apertura, cierre, &valido);
-        if (numSeg > kMaxConstruccionesLinea || NumCaja >= kMaxCajas) return {};
         ++NumCaja;
         const int caja = NumCaja;
         const std::string nombre = c.fuente.nombre;
@@ -244,7 +264,10 @@ std::string Motor::InterpretaTexto(std::string_view texto) {
       } else if (conValor) {
         const std::size_t desde = i + (codigo == "LS" ? 6 : 4);
         const std::size_t dosPuntos = desde <= n ? texto.find(':', desde) : std::string_view::npos;
-        if (dosPuntos == std::string_view::npos) return {};  // the rest of the line is lost
+        if (dosPuntos == std::string_view::npos) {  // the rest of the line is lost
+          lineaRota_ = true;
+          break;
+        }
         const std::string_view valor = texto.substr(desde, dosPuntos - desde);
         p = dosPuntos + 1;
         if (codigo == "FS") {
@@ -335,7 +358,7 @@ std::string Motor::InterpretaTexto(std::string_view texto) {
         }
         ++p;
       } else if (es("_")) {
-        const char guion[1] = {static_cast<char>(kRaya)};
+        const char guion[1] = {static_cast<char>(kGuion)};
         if (PasoDibujo) {
           if (p + 1 == n) c.Print(std::string_view(guion, 1));
         } else {
@@ -346,6 +369,12 @@ std::string Motor::InterpretaTexto(std::string_view texto) {
       } else if (es("&")) {
         caracter('&');
         ++p;
+      } else if (es("EC=")) {
+        // The sides of a ring: letters and an optional ":", never a power of ten.
+        std::size_t j = i + 4;
+        while (j < n && EsLetra(static_cast<unsigned char>(texto[j]))) ++j;
+        if (j < n && texto[j] == ':') ++j;
+        p = j;
       } else if (es("E")) {
         std::size_t j = i + 2;
         std::string exponente;
@@ -382,11 +411,17 @@ std::string Motor::InterpretaTexto(std::string_view texto) {
           indice(static_cast<unsigned char>(siguiente), ch == '_');
         ++p;
       }
+    } else if (ch == '-') {
+      const bool entreLetras = i > 0 && i + 1 < n &&
+                               EsLetra(static_cast<unsigned char>(texto[i - 1])) &&
+                               EsLetra(static_cast<unsigned char>(texto[i + 1]));
+      caracter(entreLetras ? kGuion : kRaya);
     } else {
-      caracter(ch == '-' ? kRaya : static_cast<unsigned char>(ch));
+      caracter(static_cast<unsigned char>(ch));
     }
 
-    if (!PasoDibujo) {
+    // Only a line breaks, and not once it has stopped; an argument is set whole.
+    if (!PasoDibujo && miCaja == 1 && !lineaRota_) {
       if (ancho() + Sangria + MargenIzq + MargenDer > AnchoPagina) {
         corte = std::string(texto.substr(0, ultimoCorte != 0 ? ultimoCorte : std::min(p, n)));
         break;

@@ -95,7 +95,8 @@ class Motor {
   // The construct routine of a three-letter tag ("COC"); constructs not yet
   // given a geometry of their own set their arguments one after another.
   void RegistraConstruccion(std::string_view tag, Construccion f);
-  // True while the line is being abandoned (a code without its ":", too many boxes).
+  // True once the line is being abandoned (a code without its ":", too many
+  // boxes or constructs): every level stops there and keeps what it measured.
   bool LineaRota() const { return lineaRota_; }
 
   // The width of the text area and the text's full-size height unit.
@@ -107,11 +108,9 @@ class Motor {
     Construccion f;
   };
   Construccion BuscaConstruccion(std::string_view tag) const;
-  void ReiniciaLinea();
 
   std::vector<Registro> construcciones_;
   bool lineaRota_ = false;
-  int construccionesLinea_ = 0;
 };
 
 // The page frame of the fixed sheet (796 by 1125 pixels of 15 twips, margins

@@ -11,11 +11,31 @@ constexpr std::string_view kMuestra = "Sample of Letters.";
 
 constexpr double kMargenMm = 16;
 
+// Everything a line may change that drawing reads: pass 2 starts from what
+// pass 1 started from.
+struct EstadoDibujo {
+  EstadoFuente fuente;
+  int32_t ForeColor, DrawWidth, FillStyle, ColorLinea, ColorFondo;
+
+  static EstadoDibujo De(const Motor& m, const Canvas& c) {
+    return {c.fuente, c.ForeColor, c.DrawWidth, c.FillStyle, m.ColorLinea, m.ColorFondo};
+  }
+  void Pon(Motor& m, Canvas& c) const {
+    c.fuente = fuente;
+    c.ForeColor = ForeColor;
+    c.DrawWidth = DrawWidth;
+    c.FillStyle = FillStyle;
+    m.ColorLinea = ColorLinea;
+    m.ColorFondo = ColorFondo;
+  }
+};
+
 }  // namespace
 
 void Motor::ComponerTexto(std::string_view texto, double tamano, Canvas& c) {
   canvas = &c;
   ColorLinea = 0;
+  ColorFondo = 16777215;
   marcas.clear();
   Sangria = 0;
   double y = 0;
@@ -63,8 +83,7 @@ void Motor::ComponerTexto(std::string_view texto, double tamano, Canvas& c) {
     do {
       NumCaja = 1;
       NivelFraccion = NivelExponente = 0;
-      const EstadoFuente fuente = c.fuente;
-      const int32_t color = c.ForeColor;
+      const EstadoDibujo estado = EstadoDibujo::De(*this, c);
       altoH = c.TextHeight("H");
       PasoDibujo = false;
       c.CurrentX = c.CurrentY = 0;
@@ -73,8 +92,7 @@ void Motor::ComponerTexto(std::string_view texto, double tamano, Canvas& c) {
       NumCaja = 1;
       PasoDibujo = true;
       NivelFraccion = NivelExponente = 0;
-      c.fuente = fuente;
-      c.ForeColor = color;
+      estado.Pon(*this, c);
       const Caja& linea1 = Cajas[1];
       c.CurrentX = linea1.Adelanto + Sangria + MargenIzq;
       c.CurrentY = linea1.Sobre + y + MargenSup;

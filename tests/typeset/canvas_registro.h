@@ -11,40 +11,24 @@
 
 namespace ss::test {
 
-struct Trazo {
-  std::string texto;  // one Print
-  double x, y;
-  EstadoFuente fuente;
-  int32_t color;
-};
-
-struct Raya {
-  double x1, y1, x2, y2;
-  int32_t color;
-  ModoLinea modo;
-  int grosor;
-};
+// One Print, and one Line.
+struct Trazo { std::string texto; double x, y; EstadoFuente fuente; int32_t color; };
+struct Raya { double x1, y1, x2, y2; int32_t color; ModoLinea modo; };
 
 class CanvasRegistro : public Canvas {
  public:
-  explicit CanvasRegistro(bool pantalla = false) : pantalla_(pantalla) {}
-
   std::vector<Trazo> trazos;
   std::vector<Raya> rayas;
-  int medidas = 0;  // TextWidth calls
 
   void Print(std::string_view text) override {
     trazos.push_back({std::string(text), CurrentX, CurrentY, fuente, ForeColor});
-    CurrentX += Ancho(text);
+    CurrentX += TextWidth(text);
   }
-  double TextWidth(std::string_view text) override {
-    ++medidas;
-    return Ancho(text);
-  }
+  double TextWidth(std::string_view text) override { return 10 * fuente.tamano * static_cast<double>(text.size()); }
   double TextHeight(std::string_view) override { return 23 * fuente.tamano; }
   double FontAscent() override { return 18 * fuente.tamano / TwipsPerPixelY(); }
   void Line(double x1, double y1, double x2, double y2, int32_t color, ModoLinea modo) override {
-    rayas.push_back({x1, y1, x2, y2, color, modo, DrawWidth});
+    rayas.push_back({x1, y1, x2, y2, color, modo});
   }
   void Circle(double, double, double, int32_t, double, double) override {}
   void PaintPicture(const std::string&, double, double, double, double) override {}
@@ -52,9 +36,6 @@ class CanvasRegistro : public Canvas {
   double Height() const override { return 1125; }
   double TwipsPerPixelX() const override { return 15; }
   double TwipsPerPixelY() const override { return 15; }
-  bool EsPantalla() const override { return pantalla_; }
-
-  double Ancho(std::string_view text) const { return 10 * fuente.tamano * static_cast<double>(text.size()); }
 
   // What was printed, joined.
   std::string Texto() const {
@@ -62,9 +43,6 @@ class CanvasRegistro : public Canvas {
     for (const Trazo& t : trazos) s += t.texto;
     return s;
   }
-
- private:
-  bool pantalla_;
 };
 
 }  // namespace ss::test

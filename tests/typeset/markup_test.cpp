@@ -2,14 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace ss {
 namespace {
 
 TEST(LeeColor, NumbersTriplesAndNames) {
-  struct Case {
-    const char* texto;
-    int32_t color;
-  } cases[] = {
+  struct Case { const char* texto; int32_t color; } cases[] = {
       {"255;0;0", 255},           {" 255; 255; 255", 16777215}, {"0;0;255", 16711680},
       {"16711680", 16711680},     {"Rojo", 255},                {"red", 255},
       {" BLANCO ", 16777215},     {"violeta", 128 + 65536 * 255}, {"canelo", 128 + 256 * 64},
@@ -21,13 +20,7 @@ TEST(LeeColor, NumbersTriplesAndNames) {
 }
 
 TEST(ExtraeBloque, FindsTheMatchingCloseOrGivesTheErrorBlock) {
-  struct Case {
-    const char* texto;
-    const char* open;
-    const char* close;
-    const char* bloque;
-    bool valido;
-  } cases[] = {
+  struct Case { const char *texto, *open, *close, *bloque; bool valido; } cases[] = {
       {"#COC(1#N)(2#COC) tail", "#COC(", "#COC)", "#COC(1#N)(2#COC)", true},
       {"#COC(1#N)(#COC(2#N)(3#COC)#COC)x", "#COC(", "#COC)", "#COC(1#N)(#COC(2#N)(3#COC)#COC)", true},
       {"#COC(#COC(a#N)(b#COC)#N)(c#COC)", "#COC(", "#N)", "#COC(#COC(a#N)(b#COC)#N)", true},
@@ -35,6 +28,8 @@ TEST(ExtraeBloque, FindsTheMatchingCloseOrGivesTheErrorBlock) {
       {"#COC(#COC(1#COC)", "#COC(", "#COC)", "#COC(&FC=Rojo:*ERROR*&FC=Negro:#COC)", false},
       {"no tags", "#SQR(", "#SQR)", "#SQR(&FC=Rojo:*ERROR*&FC=Negro:#SQR)", false},
       {"x #SQR(a#SQR)#SQR)", "#SQR(", "#SQR)", "#SQR(a#SQR)", true},
+      {"#SQR) #SQR(a##SQ#N)(#SQR)b", "#SQR(", "#SQR)", "#SQR(a##SQ#N)(#SQR)", true},
+      {"#SQR(#SQR(#SQR(x#SQR)#SQR)", "#SQR(", "#SQR)", "#SQR(&FC=Rojo:*ERROR*&FC=Negro:#SQR)", false},
   };
   for (const auto& c : cases) {
     bool valido = !c.valido;
@@ -44,27 +39,17 @@ TEST(ExtraeBloque, FindsTheMatchingCloseOrGivesTheErrorBlock) {
 }
 
 TEST(SustituyeCodigos, ReplacesTheNotationCodesInOrder) {
-  Reemplazos r;
-  r.decimal = ",";
-  r.lista = ";";
-  r.abre = "]";
-  r.cierra = "[";
-  EXPECT_EQ(SustituyeCodigos("1&.5&, 2&.5", r), "1,5; 2,5");
-  EXPECT_EQ(SustituyeCodigos("&(0&, 1&)", r), "]0; 1[");
-  EXPECT_EQ(SustituyeCodigos("a &\xB7 b &: c", r), "a \xD7 b \xF7 c");
-  EXPECT_EQ(SustituyeCodigos("&DT = 2", r), "&sigma = 2");
-  EXPECT_EQ(SustituyeCodigos("5 &SM, &NSM, &NPM", r), "5 $, dollar, dollars");
-  EXPECT_EQ(SustituyeCodigos("&sen x &and y", r), "sin x and y");
-  EXPECT_EQ(SustituyeCodigos("no codes", r), "no codes");
+  const Reemplazos r{.decimal = ",", .lista = ";", .abre = "]", .cierra = "["};
+  const std::pair<const char*, const char*> cases[] = {
+      {"1&.5&, 2&.5", "1,5; 2,5"}, {"&(0&, 1&)", "]0; 1["},  {"a &\xB7 b &: c", "a \xD7 b \xF7 c"},
+      {"&DT = 2", "&sigma = 2"},   {"5 &SM, &NSM, &NPM", "5 $, dollar, dollars"},
+      {"&sen x &and y", "sin x and y"}, {"no codes", "no codes"},
+  };
+  for (const auto& [texto, esperado] : cases) EXPECT_EQ(SustituyeCodigos(texto, r), esperado);
 }
 
 TEST(BuscaSimbolo, TheFirstNameInTableOrderWins) {
-  struct Case {
-    const char* texto;
-    const char* nombre;
-    bool mtExtra;
-    unsigned char caracter;
-  } cases[] = {
+  struct Case { const char *texto, *nombre; bool mtExtra; unsigned char caracter; } cases[] = {
       {"alfa", "alfa", false, 'a'},     {"Deltap", "Delta", false, 'D'},
       {"vacio", "vacio", false, 198},   {"rho", "rho", false, 'r'},
       {"ro", "ro", false, 'r'},         {"union", "union", true, 'U'},
@@ -74,13 +59,9 @@ TEST(BuscaSimbolo, TheFirstNameInTableOrderWins) {
   for (const auto& c : cases) {
     auto s = BuscaSimbolo(c.texto);
     ASSERT_TRUE(s) << c.texto;
-    EXPECT_EQ(s->nombre, c.nombre);
-    EXPECT_EQ(s->mtExtra, c.mtExtra);
-    EXPECT_EQ(s->caracter, c.caracter);
+    EXPECT_EQ(std::tuple(s->nombre, s->mtExtra, s->caracter), std::tuple(c.nombre, c.mtExtra, c.caracter));
   }
-  EXPECT_FALSE(BuscaSimbolo("Q"));
-  EXPECT_FALSE(BuscaSimbolo(""));
-  EXPECT_FALSE(BuscaSimbolo("alf"));
+  for (const char* nada : {"Q", "", "alf"}) EXPECT_FALSE(BuscaSimbolo(nada)) << nada;
 }
 
 }  // namespace
