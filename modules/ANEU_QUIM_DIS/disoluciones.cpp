@@ -194,14 +194,7 @@ const T& Elige(GenContext& g, const T (&tabla)[N]) {
   return At(tabla, static_cast<long long>(std::nearbyint(k)) - 1);
 }
 
-// The rounding of the concentration problems: two decimals, one from 1000 on;
-// below 1 three significant figures, so that small values keep their meaning.
-double Redondea(double x) {
-  const double a = std::fabs(x);
-  if (a >= 1000) return RedondeaPot(x, -2);
-  if (a >= 1 || a == 0) return RedondeaPot(x, -3);
-  return RedondeaPot(x, std::floor(std::log10(a)) - 3);
-}
+double Redondea(double x) { return RedondeaRespuesta(x); }
 
 // The value NumCifras(x, n) shows, as a number.
 double Cifras(double x, int n) {
@@ -214,6 +207,11 @@ double Cifras(double x, int n) {
 // ---- Text -------------------------------------------------------------------
 
 std::string Con(double x, std::string_view unidad) { return NumTexto(x) + "& " + std::string(unidad); }
+
+// An answer with its unit.
+std::string Respuesta(double x, std::string_view unidad) {
+  return TextoRespuesta(x) + "& " + std::string(unidad);
+}
 
 std::string ConCifras(double x, int cifras, std::string_view unidad) {
   return NumCifras(x, cifras) + "& " + std::string(unidad);
@@ -262,6 +260,29 @@ std::string Articulado(double x) { return ArticuloAn(x, false) + NumTexto(x); }
 
 }  // namespace
 
+double RedondeaRespuesta(double x) {
+  const double a = std::fabs(x);
+  if (a >= 1000) return RedondeaPot(x, -2);
+  if (a >= 1 || a == 0) return RedondeaPot(x, -3);
+  return RedondeaPot(x, std::floor(std::log10(a)) - 3);
+}
+
+std::string TextoRespuesta(double x) {
+  const double r = RedondeaRespuesta(x);
+  std::string t = NumTexto(r);
+  if (r == 0 || std::fabs(r) >= 1) return t;
+  // Count the significant digits shown and add the zeros that are missing.
+  int cifras = 0;
+  bool significativa = false;
+  for (char c : t) {
+    if (c >= '1' && c <= '9') significativa = true;
+    if (significativa && c >= '0' && c <= '9') ++cifras;
+  }
+  if (t.find("&.") == std::string::npos) t += "&.";
+  for (; cifras < 3; ++cifras) t += '0';
+  return t;
+}
+
 double Densidad(Soluto s, double p) {
   const std::span<const Fila> t = Tabla(s);
   if (!(p >= 0 && p <= t.back().p)) throw GenFault::InvalidArgument();
@@ -307,9 +328,9 @@ DisolucionG1 SorteaG1(GenContext& g, Soluto soluto) {
   return x;
 }
 
-std::string G(double x) { return Con(Redondea(x), "g"); }
-std::string Pct(double x) { return Con(Redondea(x), "%"); }
-std::string GL(double x) { return Con(Redondea(x), "g/L"); }
+std::string G(double x) { return Respuesta(x, "g"); }
+std::string Pct(double x) { return Respuesta(x, "%"); }
+std::string GL(double x) { return Respuesta(x, "g/L"); }
 
 // Each form's answers from the data its statement gives.
 std::string SolucionG1(int forma, const DisolucionG1& x) {
@@ -326,7 +347,7 @@ std::string SolucionG1(int forma, const DisolucionG1& x) {
     }
     case 4: {  // solute, water, density
       const double md = x.ms + x.agua, vd = Div(md, x.d);
-      return Partes({Lista({Con(Redondea(vd), "mL"), Pct(Div(x.ms, md) * 100)}), GL(Div(x.ms, vd) * 1000)});
+      return Partes({Lista({Respuesta(vd, "mL"), Pct(Div(x.ms, md) * 100)}), GL(Div(x.ms, vd) * 1000)});
     }
     case 5: {  // solute and percent
       const double md = Div(x.ms * 100, x.p);
@@ -416,11 +437,11 @@ DatosG2 SorteaG2(GenContext& g, const SolutoMolar& s, bool comercial) {
           .riq = riq};
 }
 
-std::string Gramos(double x) { return Con(Redondea(x), "g"); }
-std::string Porciento(double x) { return Con(Redondea(x), "%"); }
-std::string Molaridad(double moles, double litros) { return Con(Redondea(Div(moles, litros)), "mol/L"); }
+std::string Gramos(double x) { return Respuesta(x, "g"); }
+std::string Porciento(double x) { return Respuesta(x, "%"); }
+std::string Molaridad(double moles, double litros) { return Respuesta(Div(moles, litros), "mol/L"); }
 std::string Molalidad(double moles, double gramosAgua) {
-  return Con(Redondea(Div(moles, gramosAgua / 1000)), "mol/kg");
+  return Respuesta(Div(moles, gramosAgua / 1000), "mol/kg");
 }
 std::string FraccionMolar(double moles, double gramosAgua) {
   return NumCifras(Div(moles, moles + gramosAgua / kMolarAgua), 3);
@@ -524,16 +545,16 @@ std::string SolucionG3(int forma, const DatosG3& x) {
   switch (forma) {
     case 0: {
       const double moles = Div(x.vd1 * x.den1 * x.tps1 / 100, x.masaMolar);
-      return Unica(Con(Redondea(Div(moles, x.vd2 / 1000)), "mol/L"));
+      return Unica(Respuesta(Div(moles, x.vd2 / 1000), "mol/L"));
     }
     case 1:
-      return Unica(Con(Redondea(Div(moles2 * x.masaMolar * 100, x.tps1)), "g"));
+      return Unica(Respuesta(Div(moles2 * x.masaMolar * 100, x.tps1), "g"));
     case 2:
-      return Unica(Con(Redondea(Div(moles2 * x.masaMolar * 100, x.tps1 * x.den1)), "mL"));
+      return Unica(Respuesta(Div(moles2 * x.masaMolar * 100, x.tps1 * x.den1), "mL"));
     case 3:
-      return Unica(Con(Redondea(Div(moles2 * 1000, x.mlr1)), "mL"));
+      return Unica(Respuesta(Div(moles2 * 1000, x.mlr1), "mL"));
     default:
-      return Unica(Con(Redondea(Div(x.md2 * x.tps2, x.tps1 * x.den1)), "mL"));
+      return Unica(Respuesta(Div(x.md2 * x.tps2, x.tps1 * x.den1), "mL"));
   }
 }
 
