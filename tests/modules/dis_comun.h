@@ -3,9 +3,7 @@
 // masses it lists, the formulas it names. The checkers recompute every answer
 // from these alone.
 #pragma once
-
 #include <gtest/gtest.h>
-
 #include <cctype>
 #include <cmath>
 #include <functional>
@@ -13,14 +11,40 @@
 #include <regex>
 #include <string>
 #include <vector>
-
 #include "modules/modulos.h"
 #include "problems/generador.h"
 #include "problems/idioma.h"
 #include "problems/texto.h"
-#include "tests/modules/markup_numeros.h"
 
 namespace ss::test {
+// Every number written in a markup text, in order: "&." is the decimal mark,
+// "_ " between digits a group separator, "&E" an exponent of ten, a "-" right
+// before the digits (and not after a letter or digit) a sign. Digits written as
+// sub- or superscripts ("H_2O", "Ca^2^+") are part of a formula, not numbers.
+inline std::vector<double> Numeros(const std::string& m) {
+  static const std::regex n(R"((^|[^_^\d])(-?)(\d+(?:_ \d+)*)(?:&\.(\d+(?:_ \d+)*))?(?:&E([-+]?\d+))?)");
+  std::vector<double> out;
+  for (std::sregex_iterator it(m.begin(), m.end(), n), end; it != end; ++it) {
+    const std::string entero = std::regex_replace((*it)[3].str(), std::regex("_ "), "");
+    const std::string decimales = std::regex_replace((*it)[4].str(), std::regex("_ "), "");
+    double v = std::stod(entero + (decimales.empty() ? "" : "." + decimales));
+    if ((*it)[5].matched) v *= std::pow(10.0, std::stod((*it)[5]));
+    const bool tras = !(*it)[1].str().empty() && std::isalnum(static_cast<unsigned char>((*it)[1].str()[0]));
+    out.push_back((*it)[2].length() && !tras ? -v : v);
+  }
+  return out;
+}
+
+// The text after `marca` up to the line's end, and its numbers.
+inline std::string Tras(const std::string& m, const std::string& marca) {
+  const std::size_t at = m.find(marca);
+  return at == std::string::npos ? "" : m.substr(at + marca.size(), m.find("&LF", at + marca.size()) - at - marca.size());
+}
+inline std::vector<double> NumerosTras(const std::string& m, const std::string& marca) { return Numeros(Tras(m, marca)); }
+
+inline bool Cerca(double a, double b, double rel) {
+  return std::fabs(a - b) <= rel * std::max(std::fabs(a), std::fabs(b)) + 1e-12;
+}
 
 inline Mensajes& Textos() {
   static Mensajes m(SS_SOURCE_DIR);
@@ -163,8 +187,4 @@ inline void EsperaCerca(const Mostrado& m, double calculado, double abs = 0) {
   const double tol = std::max(abs, std::min(0.006 * std::fabs(calculado), 1.01 * m.media));
   EXPECT_LE(std::fabs(m.valor - calculado), tol + 1e-9) << m.valor << " vs " << calculado;
 }
-inline void EsperaCerca(double mostrado, double calculado, double abs = 0) {
-  EsperaCerca(Mostrado{mostrado, INFINITY}, calculado, abs);
-}
-
 }  // namespace ss::test

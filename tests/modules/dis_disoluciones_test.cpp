@@ -3,21 +3,17 @@
 // uses, in every form over many seeds; and the data themselves checked
 // against what real solutions can be.
 #include <gtest/gtest.h>
-
 #include <set>
-
 #include "modules/ANEU_QUIM_DIS/densidades.h"
 #include "problems/fallos.h"
 #include "tests/modules/dis_comun.h"
 
 namespace ss {
 namespace {
-
 using mod::dis::Densidad;
 using mod::dis::PorcentajeMaximo;
 using mod::dis::Soluto;
 using namespace test;
-
 // Densities of the handbook at 20 °C, read independently of the tables the
 // program carries, at the strengths a laboratory knows.
 TEST(DisDisoluciones, DensityTablesMeetKnownSolutions) {
@@ -66,7 +62,6 @@ struct Vista {
   std::vector<double> constantes;
 };
 using Calculo = std::function<std::vector<double>(const Vista&)>;
-
 struct Caso {
   int gen, forma;
   Calculo r;
@@ -180,6 +175,5 @@ TEST(DisDisoluciones, EveryAnswerFollowsFromThePrintedData) {
   }
   for (const auto& [forma, frases] : distintos) EXPECT_GT(frases.size(), 40u) << forma;
 }
-
 }  // namespace
 }  // namespace ss

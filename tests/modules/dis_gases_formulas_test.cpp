@@ -2,18 +2,14 @@
 // worked out again from the data and constants the statement prints, in
 // every form over many seeds, and the data checked against real chemistry.
 #include <gtest/gtest.h>
-
 #include <numeric>
 #include <set>
 #include <sstream>
-
 #include "tests/modules/dis_comun.h"
 
 namespace ss {
 namespace {
-
 using namespace test;
-
 // The sentence's data, the stated constants, and the molar masses of the
 // gases it names, in order.
 struct Vista {
@@ -25,7 +21,6 @@ struct Vista {
   double T2() const { return d.En("\xB0" "C", 1) + k[0]; }
 };
 using Calculo = std::function<std::vector<double>(const Vista&)>;
-
 struct Caso {
   int gen, forma;
   Calculo r;
@@ -94,11 +89,6 @@ TEST(DisGases, EveryAnswerFollowsFromThePrintedDataAndConstants) {
 // ---------------------------------------------------------------------------
 // Formulas.
 
-std::string Linea(const std::string& t, const std::string& etiqueta) {
-  const std::size_t at = t.find(etiqueta);
-  return at == std::string::npos ? "" : t.substr(at + etiqueta.size(), t.find("&LF", at) - at - etiqueta.size());
-}
-
 // Generator 6: an item's datum or answer and its kind, from the unit or the
 // word after the number.
 enum Clase { kMasa, kMoles, kParticulas, kAtomosO, kNinguna };
@@ -125,7 +115,7 @@ TEST(DisFormulas, MassMolesParticlesAndCompositionFollowFromTheListedMasses) {
       const auto masas = Masas(p.st);
       std::set<std::string> vistas;
       for (int i = 1; i <= 20; ++i) {
-        const std::string item = Linea(p.st, Etiqueta(i)), respuesta = Linea(p.so, Etiqueta(i));
+        const std::string item = Tras(p.st, Etiqueta(i)), respuesta = Tras(p.so, Etiqueta(i));
         ASSERT_FALSE(respuesta.empty()) << "item " << i;
         std::string formula;  // the first word of the item that is a formula
         std::istringstream palabras(gen == 7 ? respuesta.substr(0, respuesta.find(':')) : item);
@@ -138,7 +128,7 @@ TEST(DisFormulas, MassMolesParticlesAndCompositionFollowFromTheListedMasses) {
         if (gen == 7) {  // each element's share, in formula order, adding up to 100
           const std::vector<double> pct = Numeros(respuesta.substr(respuesta.find(':')));
           ASSERT_EQ(pct.size(), c.size());
-          for (std::size_t k = 0; k < c.size(); ++k) EsperaCerca(pct[k], 100 * c[k].second * masas.at(c[k].first) / M, 0.005);
+          for (std::size_t k = 0; k < c.size(); ++k) EsperaCerca({pct[k], INFINITY}, 100 * c[k].second * masas.at(c[k].first) / M, 0.005);
           EXPECT_NEAR(std::accumulate(pct.begin(), pct.end(), 0.0), 100, 0.03);
           continue;
         }
@@ -152,7 +142,7 @@ TEST(DisFormulas, MassMolesParticlesAndCompositionFollowFromTheListedMasses) {
         const double NA = (dada >= kParticulas || pedida >= kParticulas) ? NumerosTras(p.st, "Avogadro's number:").at(0) : 1;
         const int oxigenos = std::accumulate(c.begin(), c.end(), 0, [](int s, const auto& e) { return s + (e.first == "O") * e.second; });
         const double f[] = {M, 1, NA, NA * oxigenos};  // each kind per mole
-        EsperaCerca(y, x / f[dada] * f[pedida]);
+        EsperaCerca({y, INFINITY}, x / f[dada] * f[pedida]);
       }
     }
     if (gen == 6) EXPECT_GE(clases.size(), 10u) << "every form";
@@ -190,7 +180,7 @@ TEST(DisFormulas, EmpiricalAndMolecularFormulasFollowFromTheData) {
       const double C = masas.at("C"), H = masas.at("H"), O = masas.count("O") ? masas.at("O") : 0;
       const std::string q = p.st.substr(0, p.st.find("&LF"));
       const Datos d(q);
-      const CHO e = LeeCHO(Linea(p.so, Texto("Formula_empirica") + " "));
+      const CHO e = LeeCHO(Tras(p.so, Texto("Formula_empirica") + " "));
       ASSERT_GT(e.c, 0);
       EXPECT_EQ(std::gcd(std::gcd(e.c, e.h), e.o), 1) << "reduced";
       double nC, nH, nO = 0;
@@ -206,7 +196,7 @@ TEST(DisFormulas, EmpiricalAndMolecularFormulasFollowFromTheData) {
       }
       EXPECT_EQ(Proporcion(nC, nH, nO), e);
       distintos[v % 6].insert(q);
-      const std::string molecular = Linea(p.so, Texto("Formula_molecular") + " ");
+      const std::string molecular = Tras(p.so, Texto("Formula_molecular") + " ");
       if (molecular.empty()) continue;
       const CHO mol = LeeCHO(molecular);
       const int k = mol.c / e.c;
@@ -224,11 +214,10 @@ TEST(DisFormulas, EmpiricalAndMolecularFormulasFollowFromTheData) {
         EXPECT_LE(mol.c + mol.o, 5);
         EXPECT_TRUE(d.En("\xB0" "C") >= 130 && d.En("\xB0" "C") <= 200 && d.En("atm") <= 1.5);
       }
-      EsperaCerca(M, k * Me);
+      EsperaCerca({M, INFINITY}, k * Me);
     }
   }
   for (const auto& [forma, q] : distintos) EXPECT_GT(q.size(), forma <= 1 ? 20u : 80u) << forma;
 }
-
 }  // namespace
 }  // namespace ss
