@@ -41,6 +41,13 @@ std::string LineaEnunciado(GenContext& g, int item, const std::string& datos,
   return Etiqueta(item) + linea + "&LF";
 }
 
+// Whether the statement already asks this line's conversion: the items of
+// one exercise are all different.
+bool Repetida(const std::string& enunciado, const std::string& linea) {
+  const std::size_t cuerpo = linea.find(")&-B");  // past the item's letter
+  return enunciado.find(linea.substr(cuerpo == std::string::npos ? 0 : cuerpo)) != std::string::npos;
+}
+
 std::string LineaSolucion(int item, double resultado, std::string_view unidad) {
   return Etiqueta(item) + NumAgrupado(resultado) + "& " + std::string(unidad) + "&LF";
 }
@@ -314,17 +321,22 @@ void ConversionesImperiales(GenContext& g, std::span<const UnidadImperial> unida
   g.GP_Statement = Titulo(g) + LineaEquivalencias(g, unidades, equivalencias);
   g.GP_Solution.clear();
   for (int i = 1; i <= items; ++i) {
-    int f = Forma(g, n, i);
-    if (AzarSupera(g.rnd, 0.7)) f = static_cast<int>(AleatorioEn(g.rnd, 1, n, 1, 1)) - 1;
-    const FormaImperial& forma = At(formas, f);
-    const UnidadImperial& de = At(unidades, forma.de);
-    const UnidadImperial& a = At(unidades, forma.a);
-    const double dato = RedondeaPot(
-        Div(AleatorioEn(g.rnd, forma.desde, forma.hasta, forma.paso, 1), forma.divisor), -4);
-    const double resultado = RedondeaPot(Div(dato * de.enBase, a.enBase), -4);
-    const std::string unidad = SimboloImperial(g, a);
-    g.GP_Statement += LineaEnunciado(g, i, Cantidad(dato, SimboloImperial(g, de)), unidad);
-    g.GP_Solution += LineaSolucion(i, resultado, unidad);
+    for (int intento = 0;; ++intento) {
+      int f = Forma(g, n, i);
+      if (AzarSupera(g.rnd, 0.7)) f = static_cast<int>(AleatorioEn(g.rnd, 1, n, 1, 1)) - 1;
+      const FormaImperial& forma = At(formas, f);
+      const UnidadImperial& de = At(unidades, forma.de);
+      const UnidadImperial& a = At(unidades, forma.a);
+      const double dato = RedondeaPot(
+          Div(AleatorioEn(g.rnd, forma.desde, forma.hasta, forma.paso, 1), forma.divisor), -4);
+      const double resultado = RedondeaPot(Div(dato * de.enBase, a.enBase), -4);
+      const std::string unidad = SimboloImperial(g, a);
+      const std::string linea = LineaEnunciado(g, i, Cantidad(dato, SimboloImperial(g, de)), unidad);
+      if (Repetida(g.GP_Statement, linea) && intento < kIntentos) continue;
+      g.GP_Statement += linea;
+      g.GP_Solution += LineaSolucion(i, resultado, unidad);
+      break;
+    }
   }
 }
 
@@ -336,18 +348,23 @@ void ConversionesDecimales(GenContext& g, Escalera escalera) {
   g.GP_Statement = Titulo(g);
   g.GP_Solution.clear();
   for (int i = 1; i <= items; ++i) {
-    const ItemDecimal it = DibujaItemDecimal(g, e, i);
-    // Named units go either to the target or to the data, so that each item
-    // passes between the two kinds where the ladder has both.
-    const bool nombrada = Forma(g, 3, i) != 0;
-    std::string datos;
-    for (const Parte& p : it.partes) {
-      if (!datos.empty()) datos += "  +  ";
-      datos += Cantidad(p.valor, NombreUnidad(e, p.indice, !nombrada));
+    for (int intento = 0;; ++intento) {
+      const ItemDecimal it = DibujaItemDecimal(g, e, i);
+      // Named units go either to the target or to the data, so that each item
+      // passes between the two kinds where the ladder has both.
+      const bool nombrada = Forma(g, 3, i) != 0;
+      std::string datos;
+      for (const Parte& p : it.partes) {
+        if (!datos.empty()) datos += "  +  ";
+        datos += Cantidad(p.valor, NombreUnidad(e, p.indice, !nombrada));
+      }
+      const std::string_view unidad = NombreUnidad(e, it.destino, nombrada);
+      const std::string linea = LineaEnunciado(g, i, datos, unidad);
+      if (Repetida(g.GP_Statement, linea) && intento < kIntentos) continue;
+      g.GP_Statement += linea;
+      g.GP_Solution += LineaSolucion(i, it.resultado, unidad);
+      break;
     }
-    const std::string_view unidad = NombreUnidad(e, it.destino, nombrada);
-    g.GP_Statement += LineaEnunciado(g, i, datos, unidad);
-    g.GP_Solution += LineaSolucion(i, it.resultado, unidad);
   }
 }
 
@@ -359,11 +376,16 @@ void ConversionesTemperatura(GenContext& g, bool inversas) {
     int f = Forma(g, static_cast<int>(std::size(kFormasTemperatura)), i);
     if (inversas) f ^= 1;  // the reverse of each conversion stands beside it
     const FormaTemperatura forma = At(kFormasTemperatura, f);
-    const double dato = LecturaTemperatura(g, forma.de);
-    const double resultado = RedondeaPot(DesdeCelsius(ACelsius(dato, forma.de), forma.a), -3);
-    g.GP_Statement += LineaEnunciado(g, i, Cantidad(dato, kSimbolosGrados[forma.de]),
-                                     kSimbolosGrados[forma.a]);
-    g.GP_Solution += LineaSolucion(i, resultado, kSimbolosGrados[forma.a]);
+    for (int intento = 0;; ++intento) {
+      const double dato = LecturaTemperatura(g, forma.de);
+      const std::string linea = LineaEnunciado(g, i, Cantidad(dato, kSimbolosGrados[forma.de]),
+                                               kSimbolosGrados[forma.a]);
+      if (Repetida(g.GP_Statement, linea) && intento < kIntentos) continue;
+      const double resultado = RedondeaPot(DesdeCelsius(ACelsius(dato, forma.de), forma.a), -3);
+      g.GP_Statement += linea;
+      g.GP_Solution += LineaSolucion(i, resultado, kSimbolosGrados[forma.a]);
+      break;
+    }
   }
 }
 

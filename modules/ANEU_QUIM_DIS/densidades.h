@@ -1,18 +1,21 @@
-// Densities of water solutions as a function of their mass percent, from the
-// fitted curves the solutions problems are built on. The acid-base problems
-// read the same curves, so every worksheet tells one story about a solution.
+// Densities of water solutions at 20 °C as a function of their mass percent,
+// read from one table a solute, so that every density a sheet prints is the
+// one a real solution of that solute and strength has.
 #pragma once
 
 namespace ss::mod::dis {
 
-// Which fitted curve: one per solute that has its own, and a general one for
-// every other solute (salts, sugars, weak acids of the solutions problems).
-enum class AjusteDensidad { General, H2SO4, NH3, HNO3, HCl, NaOH, KOH, Acetico };
+// The solutes that have a density table.
+enum class Soluto { H2SO4, HCl, HNO3, NH3, NaOH, KOH, Acetico, H3PO4, NaCl, Sacarosa, Glucosa };
 
 // The density in g/mL of a water solution that is p percent by mass of the
-// solute, unrounded. The polynomial curves of H2SO4, HCl, NaOH and KOH read the
-// absolute value of p. A value outside a curve's domain (a negative percent in
-// the HNO3 curve) raises the generator fault of an invalid argument.
-double Densidad(AjusteDensidad ajuste, double p);
+// solute, interpolated linearly between the rows of its table. A percent
+// outside the table (below 0 or above the strongest solution that exists)
+// raises the generator fault of an invalid argument.
+double Densidad(Soluto s, double p);
+
+// The strongest solution of the solute that exists at 20 °C, in percent by
+// mass: its saturation, or the strength of the concentrated reagent sold.
+double PorcentajeMaximo(Soluto s);
 
 }  // namespace ss::mod::dis

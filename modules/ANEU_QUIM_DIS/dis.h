@@ -1,9 +1,16 @@
 // The generators of the gases, formulas and solutions module, by number.
 #pragma once
 
+#include <string>
+
 #include "problems/generic.h"
 
 namespace ss::mod::dis {
+
+// An answer as the page shows it: two decimals from 1 on (one from 1000 on),
+// three significant figures below 1, with the zeros that tell them ("0.0140").
+double RedondeaRespuesta(double x);
+std::string TextoRespuesta(double x);
 
 // Solutions (disoluciones.cpp).
 void Generador1(GenContext& g);   // percent, density, g/L

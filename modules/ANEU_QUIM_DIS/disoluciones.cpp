@@ -6,9 +6,7 @@
 // the statement from its message key and the solution as markup. A datum the
 // student is given is shown rounded, and every answer is worked out from the
 // data exactly as shown, so the printed answer is the one the student reaches.
-// Generator 1 is the exception: it shows the quantities of the drawn solution
-// itself (whole grams and millilitres, percent and g/L to two decimals,
-// density to three), which agree with one another within those roundings.
+#include <algorithm>
 #include <cmath>
 #include <initializer_list>
 #include <span>
@@ -39,23 +37,83 @@ constexpr std::string_view kGradoC =
     "\xB0"
     "C";
 
-// ---- Density curves: polynomial coefficients from p^0 upward ---------------
+// ---- Density tables -----------------------------------------------------------
+//
+// Mass percent against density in g/mL at 20 °C, from the standard handbook
+// tables of concentrative properties of aqueous solutions. Each table ends at
+// the strongest solution of its solute that exists: saturation for the salts
+// and sugars, the concentrated reagent for the acids and ammonia.
 
-constexpr double kAjusteH2SO4[] = {0.99954556,   0.0060719588,  6.4933996E-5,  -1.0153265E-6,
-                                   1.3057147E-9, 2.6190742E-10, -2.1616657E-12};
-constexpr double kAjusteHCl[] = {0.99817571,   0.0050904345, -3.9367082E-5,
-                                 3.1033707E-6, -8.320007E-8, 7.1842642E-10};
-constexpr double kAjusteNaOH[] = {0.99920017,   0.011311651,   -9.4965617E-6, -8.6727784E-7,
-                                  8.8583819E-8, -2.6770693E-9, 2.4445895E-11};
-constexpr double kAjusteKOH[] = {0.99941695, 0.0082913603, 6.3527613E-5, -6.3031749E-7, 2.1630295E-9};
-constexpr double kAjusteAcetico[] = {0.99803978,    0.0015761929,  -1.5437619E-5, 5.600677E-7,
-                                     -1.4475738E-8, 1.6077118E-10, -6.7119567E-13};
-constexpr double kAjusteGeneral[] = {0.998, 0.006, 2E-5};
+struct Fila {
+  double p, d;
+};
 
-double Polinomio(std::span<const double> c, double p) {
-  double s = 0;
-  for (std::size_t i = c.size(); i-- > 0;) s = s * p + c[i];
-  return s;
+constexpr Fila kH2SO4[] = {{0, 0.9982},  {1, 1.0051},  {2, 1.0118},  {4, 1.0250},  {6, 1.0385},
+                           {8, 1.0522},  {10, 1.0661}, {12, 1.0802}, {14, 1.0947}, {16, 1.1094},
+                           {18, 1.1243}, {20, 1.1394}, {24, 1.1704}, {28, 1.2023}, {30, 1.2185},
+                           {35, 1.2599}, {40, 1.3028}, {45, 1.3476}, {50, 1.3951}, {55, 1.4453},
+                           {60, 1.4983}, {65, 1.5533}, {70, 1.6105}, {75, 1.6692}, {80, 1.7272},
+                           {85, 1.7786}, {90, 1.8144}, {92, 1.8240}, {94, 1.8312}, {96, 1.8355},
+                           {98, 1.8361}};
+constexpr Fila kHCl[] = {{0, 0.9982},  {1, 1.0032},  {2, 1.0082},  {4, 1.0181},  {6, 1.0279},
+                         {8, 1.0376},  {10, 1.0474}, {12, 1.0574}, {14, 1.0675}, {16, 1.0776},
+                         {18, 1.0878}, {20, 1.0980}, {22, 1.1083}, {24, 1.1187}, {26, 1.1290},
+                         {28, 1.1392}, {30, 1.1493}, {32, 1.1593}, {34, 1.1691}, {36, 1.1789},
+                         {37, 1.1837}};
+constexpr Fila kHNO3[] = {{0, 0.9982},  {1, 1.0036},  {2, 1.0091},  {4, 1.0201},  {6, 1.0312},
+                          {8, 1.0427},  {10, 1.0543}, {12, 1.0661}, {14, 1.0781}, {16, 1.0903},
+                          {18, 1.1026}, {20, 1.1150}, {24, 1.1404}, {28, 1.1666}, {32, 1.1934},
+                          {36, 1.2205}, {40, 1.2463}, {45, 1.2783}, {50, 1.3100}, {55, 1.3393},
+                          {60, 1.3667}, {65, 1.3913}, {70, 1.4134}};
+constexpr Fila kNH3[] = {{0, 0.9982},  {1, 0.9939},  {2, 0.9895},  {4, 0.9811},  {6, 0.9730},
+                         {8, 0.9651},  {10, 0.9575}, {12, 0.9501}, {14, 0.9430}, {16, 0.9362},
+                         {18, 0.9295}, {20, 0.9229}, {22, 0.9164}, {24, 0.9101}, {26, 0.9040},
+                         {28, 0.8980}, {30, 0.8920}};
+constexpr Fila kNaOH[] = {{0, 0.9982},  {1, 1.0095},  {2, 1.0207},  {4, 1.0428},  {6, 1.0648},
+                          {8, 1.0869},  {10, 1.1089}, {12, 1.1309}, {14, 1.1530}, {16, 1.1751},
+                          {18, 1.1972}, {20, 1.2191}, {24, 1.2629}, {28, 1.3064}, {30, 1.3279},
+                          {35, 1.3798}, {40, 1.4300}, {45, 1.4779}, {50, 1.5253}};
+constexpr Fila kKOH[] = {{0, 0.9982},  {1, 1.0083},  {2, 1.0175},  {4, 1.0359},  {6, 1.0544},
+                         {8, 1.0730},  {10, 1.0918}, {12, 1.1108}, {14, 1.1299}, {16, 1.1493},
+                         {18, 1.1688}, {20, 1.1884}, {24, 1.2286}, {28, 1.2697}, {30, 1.2905},
+                         {35, 1.3440}, {40, 1.3991}, {45, 1.4558}, {50, 1.5143}};
+constexpr Fila kAcetico[] = {{0, 0.9982},  {1, 0.9996},  {2, 1.0012},  {4, 1.0040},  {6, 1.0069},
+                             {8, 1.0097},  {10, 1.0125}, {12, 1.0151}, {14, 1.0177}, {16, 1.0204},
+                             {18, 1.0229}, {20, 1.0254}, {24, 1.0302}, {28, 1.0349}, {30, 1.0370},
+                             {40, 1.0488}, {50, 1.0575}, {60, 1.0642}, {70, 1.0685}, {80, 1.0700},
+                             {90, 1.0661}, {100, 1.0498}};
+constexpr Fila kH3PO4[] = {{0, 0.9982},  {1, 1.0038},  {2, 1.0092},  {4, 1.0200},  {6, 1.0309},
+                           {8, 1.0420},  {10, 1.0532}, {12, 1.0647}, {14, 1.0764}, {16, 1.0884},
+                           {18, 1.1005}, {20, 1.1129}, {24, 1.1385}, {28, 1.1655}, {30, 1.1794},
+                           {35, 1.2160}, {40, 1.2540}, {50, 1.3350}, {60, 1.4260}, {70, 1.5260},
+                           {80, 1.6330}, {85, 1.6890}};
+constexpr Fila kNaCl[] = {{0, 0.9982},  {1, 1.0053},  {2, 1.0125},  {4, 1.0268},  {6, 1.0413},
+                          {8, 1.0559},  {10, 1.0707}, {12, 1.0857}, {14, 1.1009}, {16, 1.1162},
+                          {18, 1.1319}, {20, 1.1478}, {22, 1.1640}, {24, 1.1804}, {26, 1.1972}};
+constexpr Fila kSacarosa[] = {{0, 0.9982},  {1, 1.0021},  {2, 1.0060},  {4, 1.0139},  {6, 1.0219},
+                              {8, 1.0299},  {10, 1.0381}, {12, 1.0465}, {14, 1.0549}, {16, 1.0635},
+                              {18, 1.0722}, {20, 1.0810}, {24, 1.0990}, {28, 1.1175}, {30, 1.1270},
+                              {35, 1.1513}, {40, 1.1765}, {45, 1.2025}, {50, 1.2296}, {55, 1.2575},
+                              {60, 1.2865}, {65, 1.3163}};
+constexpr Fila kGlucosa[] = {{0, 0.9982},  {1, 1.0022},  {2, 1.0060},  {4, 1.0137},  {6, 1.0214},
+                             {8, 1.0292},  {10, 1.0371}, {12, 1.0450}, {14, 1.0530}, {16, 1.0611},
+                             {18, 1.0693}, {20, 1.0776}, {24, 1.0944}, {28, 1.1116}};
+
+std::span<const Fila> Tabla(Soluto s) {
+  switch (s) {
+    case Soluto::H2SO4: return kH2SO4;
+    case Soluto::HCl: return kHCl;
+    case Soluto::HNO3: return kHNO3;
+    case Soluto::NH3: return kNH3;
+    case Soluto::NaOH: return kNaOH;
+    case Soluto::KOH: return kKOH;
+    case Soluto::Acetico: return kAcetico;
+    case Soluto::H3PO4: return kH3PO4;
+    case Soluto::NaCl: return kNaCl;
+    case Soluto::Sacarosa: return kSacarosa;
+    case Soluto::Glucosa: break;
+  }
+  return kGlucosa;
 }
 
 // ---- Solutes ----------------------------------------------------------------
@@ -63,37 +121,41 @@ double Polinomio(std::span<const double> c, double p) {
 // Generator 1: percent and density need no molar mass.
 struct SolutoG1 {
   std::string_view clave;
-  AjusteDensidad ajuste;
+  Soluto soluto;
 };
 
 constexpr SolutoG1 kSolutosG1[10] = {
-    {"N_NaCl", AjusteDensidad::General},    {"N_azucar", AjusteDensidad::General},
-    {"N_glucosa", AjusteDensidad::General}, {"N_NH3", AjusteDensidad::NH3},
-    {"N_HNO3", AjusteDensidad::HNO3},       {"N_HCl_ac", AjusteDensidad::HCl},
-    {"N_H2SO4", AjusteDensidad::H2SO4},     {"N_NaOH", AjusteDensidad::NaOH},
-    {"N_KOH", AjusteDensidad::KOH},         {"N_CH3COOH", AjusteDensidad::General},
+    {"N_NaCl", Soluto::NaCl},   {"N_azucar", Soluto::Sacarosa}, {"N_glucosa", Soluto::Glucosa},
+    {"N_NH3", Soluto::NH3},     {"N_HNO3", Soluto::HNO3},       {"N_HCl_ac", Soluto::HCl},
+    {"N_H2SO4", Soluto::H2SO4}, {"N_NaOH", Soluto::NaOH},       {"N_KOH", Soluto::KOH},
+    {"N_CH3COOH", Soluto::Acetico},
 };
 
 // Generators 2 and 3: the atomic masses the statement shows (water's H and O
-// among them), the molar mass they give, and the solute's density curve.
+// among them), the molar mass they give, the solute's density table, the
+// weakest stock solution of it that the dilution problems start from, and
+// whether the solute is sold as a solution (its commercial product is then
+// no purer than its strongest solution) or as a solid.
 struct SolutoMolar {
   std::string_view clave;
   std::string_view masas;
   double masaMolar;
-  AjusteDensidad ajuste;
+  Soluto soluto;
+  double stockMinimo;
+  bool liquido;
 };
 
 constexpr SolutoMolar kSolutosMolares[10] = {
-    {"NTS_H2SO4", "H=1    S=32    O=16", 98, AjusteDensidad::H2SO4},
-    {"NTS_H3PO4", "H=1    P=31    O=16", 98, AjusteDensidad::General},
-    {"NTS_H2SO3", "H=1    S=32    O=16", 82, AjusteDensidad::General},
-    {"NTS_H3PO3", "H=1    P=31    O=16", 82, AjusteDensidad::General},
-    {"NTS_HNO3", "H=1    N=14    O=16", 63, AjusteDensidad::HNO3},
-    {"N_HCl_ac", "H=1    Cl=35&.5    O=16", 36.5, AjusteDensidad::HCl},
-    {"N_NaOH", "Na=23    O=16    H=1", 40, AjusteDensidad::NaOH},
-    {"N_KOH", "K=39&.1   O=16    H=1", 56.1, AjusteDensidad::KOH},
-    {"N_Al(OH)3", "Al=27    O=16    H=1", 78, AjusteDensidad::General},
-    {"N_NH3", "N=14    H=1    O=16", 17, AjusteDensidad::NH3},
+    {"NTS_H2SO4", "H=1    S=32    O=16", 98, Soluto::H2SO4, 30, true},
+    {"NTS_H3PO4", "H=1    P=31    O=16", 98, Soluto::H3PO4, 30, true},
+    {"N_CH3COOH", "C=12    O=16    H=1", 60, Soluto::Acetico, 30, true},
+    {"N_NaCl", "Na=23    Cl=35&.5    O=16    H=1", 58.5, Soluto::NaCl, 15, false},
+    {"NTS_HNO3", "H=1    N=14    O=16", 63, Soluto::HNO3, 30, true},
+    {"N_HCl_ac", "H=1    Cl=35&.5    O=16", 36.5, Soluto::HCl, 25, true},
+    {"N_NaOH", "Na=23    O=16    H=1", 40, Soluto::NaOH, 20, false},
+    {"N_KOH", "K=39&.1   O=16    H=1", 56.1, Soluto::KOH, 20, false},
+    {"NTS_sacarosa", "C=12    H=1    O=16", 342, Soluto::Sacarosa, 30, false},
+    {"N_NH3", "N=14    H=1    O=16", 17, Soluto::NH3, 15, true},
 };
 
 // Generators 5 and 10: non-electrolytes, with the atomic masses that give
@@ -132,14 +194,7 @@ const T& Elige(GenContext& g, const T (&tabla)[N]) {
   return At(tabla, static_cast<long long>(std::nearbyint(k)) - 1);
 }
 
-// The rounding of the concentration problems: two decimals, one from 1000 on;
-// below 1 three significant figures, so that small values keep their meaning.
-double Redondea(double x) {
-  const double a = std::fabs(x);
-  if (a >= 1000) return RedondeaPot(x, -2);
-  if (a >= 1 || a == 0) return RedondeaPot(x, -3);
-  return RedondeaPot(x, std::floor(std::log10(a)) - 3);
-}
+double Redondea(double x) { return RedondeaRespuesta(x); }
 
 // The value NumCifras(x, n) shows, as a number.
 double Cifras(double x, int n) {
@@ -152,6 +207,11 @@ double Cifras(double x, int n) {
 // ---- Text -------------------------------------------------------------------
 
 std::string Con(double x, std::string_view unidad) { return NumTexto(x) + "& " + std::string(unidad); }
+
+// An answer with its unit.
+std::string Respuesta(double x, std::string_view unidad) {
+  return TextoRespuesta(x) + "& " + std::string(unidad);
+}
 
 std::string ConCifras(double x, int cifras, std::string_view unidad) {
   return NumCifras(x, cifras) + "& " + std::string(unidad);
@@ -200,29 +260,40 @@ std::string Articulado(double x) { return ArticuloAn(x, false) + NumTexto(x); }
 
 }  // namespace
 
-double Densidad(AjusteDensidad ajuste, double p) {
-  switch (ajuste) {
-    case AjusteDensidad::H2SO4:
-      return Polinomio(kAjusteH2SO4, std::fabs(p));
-    case AjusteDensidad::NH3: {
-      const double u = -160.84916 - p;
-      return 1.3277754 * std::exp(-(u * u) / (2 * 212.94902 * 212.94902));
-    }
-    case AjusteDensidad::HNO3:
-      return 1.5945173 - 0.56780987 * std::exp(-1.9206157 * Pow(p / 100, 1.4786622));
-    case AjusteDensidad::HCl:
-      return Polinomio(kAjusteHCl, std::fabs(p));
-    case AjusteDensidad::NaOH:
-      return Polinomio(kAjusteNaOH, std::fabs(p));
-    case AjusteDensidad::KOH:
-      return Polinomio(kAjusteKOH, std::fabs(p));
-    case AjusteDensidad::Acetico:
-      return Polinomio(kAjusteAcetico, p);
-    case AjusteDensidad::General:
-      break;
-  }
-  return Polinomio(kAjusteGeneral, p);
+double RedondeaRespuesta(double x) {
+  const double a = std::fabs(x);
+  if (a >= 1000) return RedondeaPot(x, -2);
+  if (a >= 1 || a == 0) return RedondeaPot(x, -3);
+  return RedondeaPot(x, std::floor(std::log10(a)) - 3);
 }
+
+std::string TextoRespuesta(double x) {
+  const double r = RedondeaRespuesta(x);
+  std::string t = NumTexto(r);
+  if (r == 0 || std::fabs(r) >= 1) return t;
+  // Count the significant digits shown and add the zeros that are missing.
+  int cifras = 0;
+  bool significativa = false;
+  for (char c : t) {
+    if (c >= '1' && c <= '9') significativa = true;
+    if (significativa && c >= '0' && c <= '9') ++cifras;
+  }
+  if (t.find("&.") == std::string::npos) t += "&.";
+  for (; cifras < 3; ++cifras) t += '0';
+  return t;
+}
+
+double Densidad(Soluto s, double p) {
+  const std::span<const Fila> t = Tabla(s);
+  if (!(p >= 0 && p <= t.back().p)) throw GenFault::InvalidArgument();
+  std::size_t i = 1;
+  while (i + 1 < t.size() && t[i].p < p) ++i;
+  const Fila& a = t[i - 1];
+  const Fila& b = t[i];
+  return a.d + (b.d - a.d) * (p - a.p) / (b.p - a.p);
+}
+
+double PorcentajeMaximo(Soluto s) { return Tabla(s).back().p; }
 
 // ---- Generator 1: mass percent, density, grams per litre -------------------
 
@@ -232,44 +303,62 @@ constexpr std::string_view kClavesG1[7] = {
     "TPS_de_MS_MDT",    "MS_MDT_de_MD_TPS",    "MS_MDT_MD_GL_de_VD_TPS_DEN", "TPS_VD_GL_de_MS_MDT_DEN",
     "MD_MDT_de_MS_TPS", "MS_TPS_de_VD_GL_DEN", "TPS_GL_de_MS_MDT_VD"};
 
-// The drawn solution: solute, water and solution in g, percent, density in
-// g/mL, volume in mL, concentration in g/L.
+// The solution as the statement shows it: solute, water and solution in g,
+// percent, density in g/mL, volume in mL, concentration in g/L. The volume
+// is whole millilitres and the concentration two decimals, as a student
+// would measure them; every answer starts again from these shown values.
 struct DisolucionG1 {
   double ms, agua, md, p, d, vd, gl;
 };
 
-DisolucionG1 SorteaG1(GenContext& g, AjusteDensidad ajuste) {
+// A solution no stronger than the solute's saturation or commercial strength.
+DisolucionG1 SorteaG1(GenContext& g, Soluto soluto) {
   DisolucionG1 x{};
-  x.ms = AleatorioEn(g.rnd, 5, 90, 1, 1);
-  const double factor = AleatorioEn(g.rnd, 3, 8, 1, 1);
-  const double resto = AleatorioEn(g.rnd, 50, 99, 1, 1);
-  x.md = factor * x.ms + resto;
-  x.agua = x.md - x.ms;
-  x.p = RedondeaPot(Div(x.ms, x.md) * 100, -3);
-  x.d = RedondeaPot(Densidad(ajuste, x.p), -4);
+  do {
+    x.ms = AleatorioEn(g.rnd, 5, 90, 1, 1);
+    const double factor = AleatorioEn(g.rnd, 3, 8, 1, 1);
+    const double resto = AleatorioEn(g.rnd, 50, 99, 1, 1);
+    x.md = factor * x.ms + resto;
+    x.agua = x.md - x.ms;
+    x.p = RedondeaPot(Div(x.ms, x.md) * 100, -3);
+  } while (x.p > PorcentajeMaximo(soluto));
+  x.d = RedondeaPot(Densidad(soluto, x.p), -4);
   x.vd = std::floor(Div(x.md, x.d) + 0.5);
   x.gl = RedondeaPot(Div(x.ms, x.vd) * 1000, -3);
   return x;
 }
 
+std::string G(double x) { return Respuesta(x, "g"); }
+std::string Pct(double x) { return Respuesta(x, "%"); }
+std::string GL(double x) { return Respuesta(x, "g/L"); }
+
+// Each form's answers from the data its statement gives.
 std::string SolucionG1(int forma, const DisolucionG1& x) {
-  const std::string ms = Con(x.ms, "g"), agua = Con(x.agua, "g"), md = Con(x.md, "g");
-  const std::string p = Con(x.p, "%"), vd = Con(x.vd, "mL"), gl = Con(x.gl, "g/L");
   switch (forma) {
-    case 1:
-      return Unica(p);
-    case 2:
-      return Partes({ms, agua});
-    case 3:
-      return Partes({Lista({ms, agua, md}), gl});
-    case 4:
-      return Partes({Lista({vd, p}), gl});
-    case 5:
-      return Partes({agua, md});
-    case 6:
-      return Partes({ms, p});
-    default:
-      return Partes({p, gl});
+    case 1:  // solute and water
+      return Unica(Pct(Div(x.ms, x.ms + x.agua) * 100));
+    case 2: {  // solution and percent
+      const double ms = x.md * x.p / 100;
+      return Partes({G(ms), G(x.md - ms)});
+    }
+    case 3: {  // volume, percent, density
+      const double md = x.vd * x.d, ms = md * x.p / 100;
+      return Partes({Lista({G(ms), G(md - ms), G(md)}), GL(Div(ms, x.vd) * 1000)});
+    }
+    case 4: {  // solute, water, density
+      const double md = x.ms + x.agua, vd = Div(md, x.d);
+      return Partes({Lista({Respuesta(vd, "mL"), Pct(Div(x.ms, md) * 100)}), GL(Div(x.ms, vd) * 1000)});
+    }
+    case 5: {  // solute and percent
+      const double md = Div(x.ms * 100, x.p);
+      return Partes({G(md - x.ms), G(md)});
+    }
+    case 6: {  // volume, g/L, density
+      const double ms = x.gl * x.vd / 1000;
+      return Partes({G(ms), Pct(Div(ms, x.vd * x.d) * 100)});
+    }
+    default:  // solute, water, volume
+      return Partes({Pct(Div(x.ms, x.ms + x.agua) * 100), GL(Div(x.ms, x.vd) * 1000)});
   }
 }
 
@@ -278,7 +367,7 @@ std::string SolucionG1(int forma, const DisolucionG1& x) {
 void Generador1(GenContext& g) {
   const int forma = Forma(g, 7) + 1;
   const SolutoG1& soluto = Elige(g, kSolutosG1);
-  const DisolucionG1 x = SorteaG1(g, soluto.ajuste);
+  const DisolucionG1 x = SorteaG1(g, soluto.soluto);
 
   g.GP_Statement = Enunciado(g, At(kClavesG1, forma - 1));
   const std::string ns = g.MsgQUI(soluto.clave);
@@ -317,12 +406,24 @@ struct DatosG2 {
   double masaMolar, vd, ms, agua, d, p, mlr, msimp, riq;
 };
 
-DatosG2 SorteaG2(GenContext& g, const SolutoMolar& s) {
-  double vd = AleatorioEn(g.rnd, 200, 500, 5, 1);
-  if (AzarSupera(g.rnd, 0.8)) vd = AleatorioEn(g.rnd, 500, 2000, 10, 1);
-  const double p = AleatorioEn(g.rnd, 5, 50, 1, 1);
-  const double riq = AleatorioEn(g.rnd, 100, 950, 1, 1) / 10;
-  const double d = RedondeaPot(Densidad(s.ajuste, p), -4);
+// Forms 6-8 make the solution from a commercial product: a solid of 60-99.5 %
+// purity, or the concentrated reagent of a solute sold as a solution. The
+// product must fit the volume made: a solid of at most 0.6 g a millilitre,
+// a reagent of at most half the volume.
+DatosG2 SorteaG2(GenContext& g, const SolutoMolar& s, bool comercial) {
+  double vd, p, riq, d;
+  for (;;) {
+    vd = AleatorioEn(g.rnd, 200, 500, 5, 1);
+    if (AzarSupera(g.rnd, 0.8)) vd = AleatorioEn(g.rnd, 500, 2000, 10, 1);
+    // No stronger than the solute allows.
+    p = AleatorioEn(g.rnd, 5, std::min(50.0, PorcentajeMaximo(s.soluto)), 1, 1);
+    riq = s.liquido ? AleatorioEn(g.rnd, s.stockMinimo, PorcentajeMaximo(s.soluto), 0.1, 1)
+                    : AleatorioEn(g.rnd, 600, 995, 1, 1) / 10;
+    d = RedondeaPot(Densidad(s.soluto, p), -4);
+    if (!comercial) break;
+    const double producto = vd * d * p / riq;  // grams of the commercial product
+    if (s.liquido ? producto / Densidad(s.soluto, riq) <= vd / 2 : producto <= 0.6 * vd) break;
+  }
   const double ms = vd * d * p / 100;  // the solute in the whole volume
   const double mlr = Div(ms, s.masaMolar) / (vd / 1000);
   return {.masaMolar = s.masaMolar,
@@ -336,11 +437,11 @@ DatosG2 SorteaG2(GenContext& g, const SolutoMolar& s) {
           .riq = riq};
 }
 
-std::string Gramos(double x) { return Con(Redondea(x), "g"); }
-std::string Porciento(double x) { return Con(Redondea(x), "%"); }
-std::string Molaridad(double moles, double litros) { return Con(Redondea(Div(moles, litros)), "mol/L"); }
+std::string Gramos(double x) { return Respuesta(x, "g"); }
+std::string Porciento(double x) { return Respuesta(x, "%"); }
+std::string Molaridad(double moles, double litros) { return Respuesta(Div(moles, litros), "mol/L"); }
 std::string Molalidad(double moles, double gramosAgua) {
-  return Con(Redondea(Div(moles, gramosAgua / 1000)), "mol/kg");
+  return Respuesta(Div(moles, gramosAgua / 1000), "mol/kg");
 }
 std::string FraccionMolar(double moles, double gramosAgua) {
   return NumCifras(Div(moles, moles + gramosAgua / kMolarAgua), 3);
@@ -387,7 +488,7 @@ std::string SolucionG2(int forma, const DatosG2& x) {
 void Generador2(GenContext& g) {
   const int forma = Forma(g, 9);
   const SolutoMolar& soluto = Elige(g, kSolutosMolares);
-  const DatosG2 x = SorteaG2(g, soluto);
+  const DatosG2 x = SorteaG2(g, soluto, forma >= 6);
 
   g.GP_Statement = Enunciado(g, At(kClavesG2, forma)) + LineaMasas(g, soluto.masas);
   const std::string ns = g.MsgQUI(soluto.clave);
@@ -419,19 +520,21 @@ struct DatosG3 {
   double masaMolar, vd1, vd2, den1, tps1, tps2, mlr1, mlr2, md2;
 };
 
-DatosG3 SorteaG3(GenContext& g, double masaMolar) {
+// The stock is a strong solution of the solute, between its weakest stock
+// and its strongest solution, with the density of its table at that percent.
+DatosG3 SorteaG3(GenContext& g, const SolutoMolar& s) {
   DatosG3 x{};
-  x.masaMolar = masaMolar;
+  x.masaMolar = s.masaMolar;
   x.vd1 = AleatorioEn(g.rnd, 50, 900, 1, 1) / 10;
   const double dilucion = AleatorioEn(g.rnd, 5, 10, 1, 1) * 8;
-  x.den1 = RedondeaPot(AleatorioEn(g.rnd, 100, 850, 5, 1) / 1000 + 1, -4);
   const double factor2 = AleatorioEn(g.rnd, 10, 40, 1, 1) / 10 + 1;
-  x.tps1 = AleatorioEn(g.rnd, 30, 50, 1, 1);
+  x.tps1 = AleatorioEn(g.rnd, s.stockMinimo, PorcentajeMaximo(s.soluto), 1, 1);
+  x.den1 = RedondeaPot(Densidad(s.soluto, x.tps1), -4);
   // The solute of the stock portion stays the same in the dilute solution.
   const double ms = x.vd1 * x.den1 * x.tps1 / 100;
   x.vd2 = Redondea(x.vd1 * dilucion);
-  x.mlr1 = Redondea(Div(10 * x.den1 * x.tps1, masaMolar));
-  x.mlr2 = Redondea(Div(ms, masaMolar) / (x.vd2 / 1000));
+  x.mlr1 = Redondea(Div(10 * x.den1 * x.tps1, x.masaMolar));
+  x.mlr2 = Redondea(Div(ms, x.masaMolar) / (x.vd2 / 1000));
   x.tps2 = Redondea(x.tps1 / factor2);
   x.md2 = Redondea(Div(ms * 100, x.tps2));
   return x;
@@ -442,16 +545,16 @@ std::string SolucionG3(int forma, const DatosG3& x) {
   switch (forma) {
     case 0: {
       const double moles = Div(x.vd1 * x.den1 * x.tps1 / 100, x.masaMolar);
-      return Unica(Con(Redondea(Div(moles, x.vd2 / 1000)), "mol/L"));
+      return Unica(Respuesta(Div(moles, x.vd2 / 1000), "mol/L"));
     }
     case 1:
-      return Unica(Con(Redondea(Div(moles2 * x.masaMolar * 100, x.tps1)), "g"));
+      return Unica(Respuesta(Div(moles2 * x.masaMolar * 100, x.tps1), "g"));
     case 2:
-      return Unica(Con(Redondea(Div(moles2 * x.masaMolar * 100, x.tps1 * x.den1)), "mL"));
+      return Unica(Respuesta(Div(moles2 * x.masaMolar * 100, x.tps1 * x.den1), "mL"));
     case 3:
-      return Unica(Con(Redondea(Div(moles2 * 1000, x.mlr1)), "mL"));
+      return Unica(Respuesta(Div(moles2 * 1000, x.mlr1), "mL"));
     default:
-      return Unica(Con(Redondea(Div(x.md2 * x.tps2, x.tps1 * x.den1)), "mL"));
+      return Unica(Respuesta(Div(x.md2 * x.tps2, x.tps1 * x.den1), "mL"));
   }
 }
 
@@ -460,7 +563,7 @@ std::string SolucionG3(int forma, const DatosG3& x) {
 void Generador3(GenContext& g) {
   const int forma = Forma(g, 5);
   const SolutoMolar& soluto = Elige(g, kSolutosMolares);
-  const DatosG3 x = SorteaG3(g, soluto.masaMolar);
+  const DatosG3 x = SorteaG3(g, soluto);
 
   g.GP_Statement = Enunciado(g, At(kClavesG3, forma));
   if (forma <= 2) g.GP_Statement += LineaMasas(g, soluto.masas);  // the forms that need M
@@ -499,17 +602,19 @@ struct DatosG5 {
 
 // A temperature datum comes from a drawn lowering of the freezing point (the
 // boiling point from the same solution); the other forms start from the
-// masses. Either way a solution above 3 mol/kg is drawn again.
+// masses. Either way the molality stays between 0.25 and 3 mol/kg, where the
+// laws of dilute solutions hold and the change of temperature is large
+// enough to read: a lowering of 0.50-5.50 °C, a rise of 0.13-1.56 °C.
 DatosG5 SorteaG5(GenContext& g, int forma, double masaMolar) {
   const bool desconocido = SolutoDesconocido(forma);
   DatosG5 x{};
   do {
-    const double tc = AleatorioEn(g.rnd, 40, 250, 1, 1) / 10;
+    const double tc = AleatorioEn(g.rnd, 50, 550, 1, 1) / 100;
     x.ms = AleatorioEn(g.rnd, 10, 120, 1, 1);
     x.agua = AleatorioEn(g.rnd, 130, desconocido ? 600 : 900, 10, 1);
     x.masaMolar = desconocido ? AleatorioEn(g.rnd, 20, 400, 1, 1) : masaMolar;
     x.m = DesdeTemperatura(forma) ? tc / kKc : Div(x.ms, x.masaMolar) / (x.agua / 1000);
-  } while (x.m > 3);
+  } while (x.m > 3 || x.m < 0.25);
   x.tc = Cifras(kKc * x.m, 3);
   x.te = Cifras(kEbullicionAgua + kKe * x.m, 5) - kEbullicionAgua;
   return x;

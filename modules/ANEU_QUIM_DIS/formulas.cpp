@@ -32,24 +32,36 @@ constexpr Elemento kElementos[30] = {
 
 constexpr double kAvogadro = 6.0221415E23;
 
-// A formula template: element-and-count pairs ("H1 N1 O3"), and the two of its
-// elements that are replaced by a pick from a list of two-character slots (an
-// entry that stands twice weighs double).
+// The nine formula types (X2Y, X2Y3, XY2, HXO2, HXO3, HXO4, H2XO3, H2XO4,
+// H2X2O7), each with the real compounds of that type that the exercises use:
+// element-and-count pairs in formula order, compounds parted by ";". A "*"
+// marks an ionic or network solid, which is counted in formula units rather
+// than molecules. Generator 6 counts oxygen atoms, so its binary compounds are
+// the oxides; generator 7 adds the sulfides, selenides and tellurides.
 struct Plantilla {
-  std::string_view pares;
-  std::string_view primero, lista1;
-  std::string_view segundo, lista2;
+  std::string_view oxidos;  // the binary types' oxides, or every compound of an oxoacid type
+  std::string_view otros;   // the binary types' other compounds
 };
 constexpr Plantilla kPlantillas[9] = {
-    {"H2 O1", "H", "H H K LiNaNaCuAuAgI ClBr", "O", "O S SeTe"},
-    {"Fe2 O3", "Fe", "CrMnFeCoNiAlN P AsSbI ClBr", "O", "O S SeTe"},
-    {"Pb1 O2", "Pb", "PbPtSnS C SiSeTe", "O", "O S SeTe"},
-    {"H1 N1 O2", "N", "N N P AsSbI ClBr", "H", "H H H K LiNaNaCuAuAg"},
-    {"H1 N1 O3", "N", "N N P AsSbI ClClBr", "H", "H H H K LiNaNaCuAuAg"},
-    {"H1 Cl1 O4", "Cl", "I ClClBrMnMn", "H", "H H H K LiNaNaCuAuAg"},
-    {"H2 S1 O3", "S", "SiC S S SeTe", "H", "H H H K LiNaNaCuAuAg"},
-    {"H2 S1 O4", "S", "S S SeTeCrMn", "H", "H K LiNaCuAuAg"},
-    {"H2 S2 O7", "S", "S S SeTeCrCr", "H", "H H H K LiNaNaCuAuAg"},
+    {"H2 O1;*Li2 O1;*Na2 O1;*K2 O1;*Cu2 O1;*Ag2 O1;Cl2 O1",
+     "H2 S1;H2 Se1;H2 Te1;*Li2 S1;*Na2 S1;*K2 S1;*Cu2 S1;*Ag2 S1;*Na2 Se1;*Ag2 Se1;*K2 Te1"},
+    {"*Cr2 O3;*Mn2 O3;*Fe2 O3;*Al2 O3;N2 O3;P2 O3;As2 O3;*Sb2 O3",
+     "*Al2 S3;*Cr2 S3;As2 S3;*Sb2 S3;As2 Se3;*Sb2 Se3;*Sb2 Te3;*Al2 Se3"},
+    {"*Pb1 O2;*Pt1 O2;*Sn1 O2;S1 O2;C1 O2;*Si1 O2;Se1 O2;*Te1 O2",
+     "C1 S2;C1 Se2;*Si1 S2;*Sn1 S2;*Pt1 S2;*Sn1 Se2"},
+    {"H1 N1 O2;*Li1 N1 O2;*Na1 N1 O2;*K1 N1 O2;*Ag1 N1 O2;H1 Cl1 O2;*Na1 Cl1 O2;*K1 Cl1 O2;"
+     "*Na1 As1 O2", ""},
+    {"H1 N1 O3;*Li1 N1 O3;*Na1 N1 O3;*K1 N1 O3;*Ag1 N1 O3;H1 Cl1 O3;*Na1 Cl1 O3;*K1 Cl1 O3;"
+     "*Ag1 Cl1 O3;H1 Br1 O3;*Na1 Br1 O3;*K1 Br1 O3;H1 I1 O3;*Na1 I1 O3;*K1 I1 O3;H1 P1 O3;"
+     "*Na1 P1 O3", ""},
+    {"H1 Cl1 O4;*Li1 Cl1 O4;*Na1 Cl1 O4;*K1 Cl1 O4;*Ag1 Cl1 O4;H1 Br1 O4;*K1 Br1 O4;H1 I1 O4;"
+     "*Na1 I1 O4;*K1 I1 O4;H1 Mn1 O4;*Na1 Mn1 O4;*K1 Mn1 O4;*Ag1 Mn1 O4", ""},
+    {"*Li2 S1 O3;*Na2 S1 O3;*K2 S1 O3;*Ag2 S1 O3;H2 C1 O3;*Li2 C1 O3;*Na2 C1 O3;*K2 C1 O3;"
+     "*Ag2 C1 O3;*Li2 Si1 O3;*Na2 Si1 O3;*K2 Si1 O3;H2 Se1 O3;*Na2 Se1 O3;*K2 Se1 O3;"
+     "*Na2 Te1 O3", ""},
+    {"H2 S1 O4;*Li2 S1 O4;*Na2 S1 O4;*K2 S1 O4;*Ag2 S1 O4;H2 Se1 O4;*Na2 Se1 O4;*K2 Se1 O4;"
+     "*Li2 Cr1 O4;*Na2 Cr1 O4;*K2 Cr1 O4;*Ag2 Cr1 O4;*Na2 Mn1 O4;*K2 Mn1 O4", ""},
+    {"H2 S2 O7;*Na2 S2 O7;*K2 S2 O7;*Li2 Cr2 O7;*Na2 Cr2 O7;*K2 Cr2 O7;*Ag2 Cr2 O7", ""},
 };
 
 // The fixed compounds of generator 7 with their answers and elements.
@@ -132,38 +144,59 @@ struct Compuesto {
   std::string formula;         // markup
   double M = 0;                // g/mol
   int oxigenos = 0;
+  bool ionico = false;         // counted in formula units, not molecules
 };
 
-// A pick from a list of two-character slots.
-std::string EligeDeLista(GenContext& g, std::string_view lista) {
-  const double slots = static_cast<double>(lista.size() / 2);
-  const auto k = static_cast<std::size_t>(Dibuja(g, 1, slots, 1));
-  return std::string(Trim(lista.substr(2 * (k - 1), 2)));
+// The entries of a list parted by ";".
+std::vector<std::string_view> Entradas(std::string_view lista) {
+  std::vector<std::string_view> out;
+  while (!lista.empty()) {
+    const std::size_t fin = lista.find(';');
+    out.push_back(lista.substr(0, fin));
+    if (fin == std::string_view::npos) break;
+    lista.remove_prefix(fin + 1);
+  }
+  return out;
 }
 
-// A compound from a random template with random elements. Generator 6 keeps
-// the oxygen of the binary templates (its forms count oxygen atoms).
-// A compound whose two replaced elements come out equal ("SS_2") is drawn
-// again.
-Compuesto CompuestoDePlantilla(GenContext& g, bool mantenerOxigeno) {
+// A compound from its pairs ("*Na2 S1 O4").
+Compuesto DeFormula(std::string_view pares) {
+  Compuesto c;
+  c.ionico = !pares.empty() && pares.front() == '*';
+  if (c.ionico) pares.remove_prefix(1);
+  for (std::string_view par : Palabras(pares)) {
+    const std::string simbolo(par.substr(0, par.size() - 1));
+    const int n = par.back() - '0';
+    const std::size_t e = IndiceElemento(simbolo);
+    c.atomos.push_back({e, n});
+    c.formula += simbolo + Subindice(n);
+    c.M += n * kElementos[e].masa;
+    if (simbolo == "O") c.oxigenos += n;
+  }
+  return c;
+}
+
+// A compound of a random type. Generator 6 (`oxidos`) takes the binary types'
+// oxides only, since its forms count oxygen atoms.
+Compuesto CompuestoDePlantilla(GenContext& g, bool oxidos) {
+  const Plantilla& p = At(kPlantillas, static_cast<long long>(Dibuja(g, 1, 9, 1)) - 1);
+  std::vector<std::string_view> lista = Entradas(p.oxidos);
+  if (!oxidos)
+    for (std::string_view otro : Entradas(p.otros)) lista.push_back(otro);
+  const auto k = static_cast<long long>(Dibuja(g, 1, static_cast<double>(lista.size()), 1)) - 1;
+  return DeFormula(At(lista, k));
+}
+
+// Draws again until the formula is not among those the exercise already has.
+template <typename F>
+auto Distinto(std::vector<std::string>& usadas, F dibuja) {
   for (;;) {
-    const Plantilla& p = At(kPlantillas, static_cast<long long>(Dibuja(g, 1, 9, 1)) - 1);
-    const std::string nuevo1 = EligeDeLista(g, p.lista1);
-    const std::string nuevo2 =
-        mantenerOxigeno && p.segundo == "O" ? std::string("O") : EligeDeLista(g, p.lista2);
-    Compuesto c;
-    for (std::string_view par : Palabras(p.pares)) {
-      std::string simbolo(par.substr(0, par.size() - 1));
-      const int n = par.back() - '0';
-      if (simbolo == p.primero) simbolo = nuevo1;
-      else if (simbolo == p.segundo) simbolo = nuevo2;
-      const std::size_t e = IndiceElemento(simbolo);
-      c.atomos.push_back({e, n});
-      c.formula += simbolo + Subindice(n);
-      c.M += n * kElementos[e].masa;
-      if (simbolo == "O") c.oxigenos += n;
+    auto x = dibuja();
+    const std::string& f = x.formula;
+    if (std::find(usadas.begin(), usadas.end(), f) == usadas.end()) {
+      usadas.push_back(f);
+      return x;
     }
-    if (nuevo1 != nuevo2) return c;
   }
 }
 
@@ -226,12 +259,18 @@ double DibujaMagnitud(GenContext& g, Magnitud q) {
   return 0;
 }
 
-std::string ConUnidad(GenContext& g, Magnitud q, double x) {
+// What one counts of a compound: molecules, or formula units of an ionic or
+// network solid.
+std::string Particulas(GenContext& g, const Compuesto& c) {
+  return g.MsgQUI(c.ionico ? "Unidades_formula" : "Moleculas");
+}
+
+std::string ConUnidad(GenContext& g, Magnitud q, double x, const Compuesto& c) {
   const std::string v = NumCifras(x, 4);
   switch (q) {
     case Magnitud::Masa: return v + "& g";
     case Magnitud::Moles: return v + "& mol";
-    case Magnitud::Moleculas: return v + " " + g.MsgQUI("Moleculas");
+    case Magnitud::Moleculas: return v + " " + Particulas(g, c);
     case Magnitud::AtomosO: return v + " " + g.MsgQUI("AtomOxig");
   }
   return v;
@@ -283,20 +322,27 @@ Molecula Empirica(const Molecula& m) {
   return {m.c / d, m.h / d, m.o / d};
 }
 
-// A real molecule: 2-7 carbon atoms, 0-2 oxygen atoms (at least one when
-// `oxigeno`), and 0-4 rings or multiple bonds, so that the hydrogen count is
+// A real molecule: 1-10 carbon atoms (one only in methane), 0-2 oxygen atoms (at least one when
+// `oxigeno`), and 0-5 rings or multiple bonds, so that the hydrogen count is
 // even and at most 2C + 2. With `doblar`, six times in ten the molecule is
 // doubled when the double is a molecule too, so that the molecular formula
-// is a multiple of the empirical one more often.
-Molecula DibujaMolecula(GenContext& g, bool oxigeno, bool doblar) {
+// is a multiple of the empirical one more often. A `volatil` molecule, whose
+// vapour the problem weighs, has at most five atoms of carbon and oxygen
+// together, doubled or not, so that it boils well below the temperatures of
+// its gas data.
+Molecula DibujaMolecula(GenContext& g, bool oxigeno, bool doblar, bool volatil) {
+  constexpr int kPesadosVolatil = 5;
   Molecula m;
   do {
-    m.c = static_cast<int>(Dibuja(g, 2, 7, 1));
+    m.c = static_cast<int>(Dibuja(g, 1, 10, 1));
     m.o = oxigeno ? static_cast<int>(Dibuja(g, 1, 3, 1)) - 1 : 0;
-    const int insaturaciones = static_cast<int>(Dibuja(g, 1, 5, 1)) - 1;
+    const int insaturaciones = static_cast<int>(Dibuja(g, 1, 6, 1)) - 1;
     m.h = 2 * m.c + 2 - 2 * insaturaciones;
-  } while (m.h < 2 || (oxigeno && m.o == 0));
-  if (doblar && m.h <= 2 * m.c && AzarSupera(g.rnd, 0.4)) m = {2 * m.c, 2 * m.h, 2 * m.o};
+  } while (m.h < 2 || (oxigeno && m.o == 0) || (m.c == 1 && m.h + m.o != 4) ||
+           (volatil && m.c + m.o > kPesadosVolatil));
+  if (doblar && m.h <= 2 * m.c && (!volatil || 2 * (m.c + m.o) <= kPesadosVolatil) &&
+      AzarSupera(g.rnd, 0.4))
+    m = {2 * m.c, 2 * m.h, 2 * m.o};
   return m;
 }
 
@@ -327,8 +373,8 @@ struct Problema8 {
 
 void DibujaDatosGas(GenContext& g, Problema8& p) {
   const double M = MasaMolar(p.mol);
-  p.T = Dibuja(g, 70, 160, 1);
-  p.P = Dibuja(g, 90, 250, 1) / 100;
+  p.T = Dibuja(g, 130, 200, 1);
+  p.P = Dibuja(g, 80, 150, 1) / 100;
   const double RT = kR8 * (p.T + kKelvin8);
   if (p.datos == Datos8::GasMPVT) {
     p.mGas = Dibuja(g, 50, 500, 1) / 100;
@@ -480,7 +526,8 @@ Problema8 PlanteaProblema8(GenContext& g) {
     case 5: p.datos = kDatosCombustion[eleccion2]; break;
     default: break;
   }
-  p.mol = DibujaMolecula(g, oxigeno, p.datos != Datos8::Ninguno);
+  const bool gas = p.datos == Datos8::GasMPVT || p.datos == Datos8::GasDPT;
+  p.mol = DibujaMolecula(g, oxigeno, p.datos != Datos8::Ninguno, gas);
   p.emp = Empirica(p.mol);
   // A hydrocarbon may be found from either product; with oxygen both are needed.
   p.productos = oxigeno ? Productos::Ambos : static_cast<Productos>(eleccion1);
@@ -496,8 +543,9 @@ void Generador6(GenContext& g) {
   bool avogadro = false;
   std::string enunciado = g.MsgQUI("ConvertirMolMasaMolec") + "&LF";
   std::string solucion;
+  std::vector<std::string> formulas;
   for (int i = 1; i <= items; ++i) {
-    const Compuesto c = CompuestoDePlantilla(g, true);
+    const Compuesto c = Distinto(formulas, [&] { return CompuestoDePlantilla(g, true); });
     const FormaConversion& f = FormaDeItem(g, i);
     const double dato = DibujaMagnitud(g, f.dato);
     const double pedido = DesdeMoles(f.pedido, AMoles(f.dato, dato, c), c);
@@ -507,8 +555,9 @@ void Generador6(GenContext& g) {
     Reemplaza(item, "%N%", NumCifras(dato, 4) + "& mol");
     Reemplaza(item, "%NM%", NumCifras(dato, 4));
     Reemplaza(item, "%AO%", NumCifras(dato, 4));
+    Reemplaza(item, "%MOLEC%", Particulas(g, c));
     enunciado += Etiqueta(i) + item + "&LF";
-    solucion += Etiqueta(i) + ConUnidad(g, f.pedido, pedido);
+    solucion += Etiqueta(i) + ConUnidad(g, f.pedido, pedido, c);
     if (UsaMasa(f)) {
       solucion += "   (M = " + NumTexto(RedondeaPot(c.M, -4)) + "& g/mol)";
       for (const Atomos& a : c.atomos) usados[a.elemento] = true;
@@ -528,19 +577,30 @@ void Generador7(GenContext& g) {
   std::vector<bool> usados(std::size(kElementos), false);
   std::string lista;
   std::string solucion;
-  for (int i = 1; i <= items; ++i) {
+  std::vector<std::string> formulas;
+  struct Item {
     std::string formula, respuesta;
-    if (AzarSupera(g.rnd, 0.5)) {
-      const CompuestoFijo& f = At(kCompuestosFijos, static_cast<long long>(Dibuja(g, 1, 15, 1)) - 1);
-      formula = std::string(f.formula);
-      respuesta = std::string(f.respuesta);
-      for (std::string_view s : Palabras(f.elementos)) usados[IndiceElemento(s)] = true;
-    } else {
-      const Compuesto c = CompuestoDePlantilla(g, false);
-      formula = c.formula;
-      respuesta = Composicion(c);
-      for (const Atomos& a : c.atomos) usados[a.elemento] = true;
-    }
+    std::vector<std::size_t> elementos;
+  };
+  for (int i = 1; i <= items; ++i) {
+    const Item it = Distinto(formulas, [&] {
+      Item x;
+      if (AzarSupera(g.rnd, 0.5)) {
+        const CompuestoFijo& f = At(kCompuestosFijos, static_cast<long long>(Dibuja(g, 1, 15, 1)) - 1);
+        x.formula = std::string(f.formula);
+        x.respuesta = std::string(f.respuesta);
+        for (std::string_view s : Palabras(f.elementos)) x.elementos.push_back(IndiceElemento(s));
+      } else {
+        const Compuesto c = CompuestoDePlantilla(g, false);
+        x.formula = c.formula;
+        x.respuesta = Composicion(c);
+        for (const Atomos& a : c.atomos) x.elementos.push_back(a.elemento);
+      }
+      return x;
+    });
+    for (std::size_t e : it.elementos) usados[e] = true;
+    const std::string& formula = it.formula;
+    const std::string& respuesta = it.respuesta;
     // Four formulas a line, at tab stops a quarter of the width apart.
     const int columna = (i - 1) % 4;
     if (columna > 0) lista += "&SP=" + std::to_string(25 * columna) + ":";

@@ -1,14 +1,10 @@
 #include "modules/modulos.h"
-
 #include <gtest/gtest.h>
-
 #include <set>
-
 #include "tests/problems/fakes.h"
 
 namespace ss {
 namespace {
-
 TEST(ModulosQuimica, TheTenModulesInCatalogueOrderWithTheirGeneratorCounts) {
   struct Row {
     const char* name;
@@ -46,6 +42,5 @@ TEST(ModulosQuimica, EveryModuleAnswersEveryNumberWithTextNeverAFault) {
     }
   }
 }
-
 }  // namespace
 }  // namespace ss

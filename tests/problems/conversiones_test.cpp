@@ -1,56 +1,28 @@
 // The unit conversion exercises: every answer recomputed from the data its
-// statement shows, with unit sizes worked out here from the metric prefixes
-// and the legal definitions of the imperial units.
+// statement shows, with unit sizes worked out here from the metric prefixes,
+// the temperature scales and the legal definitions of the imperial units.
 #include "problems/conversiones.h"
-
 #include <gtest/gtest.h>
-
-#include <cmath>
-#include <map>
 #include <random>
-#include <regex>
 #include <set>
 #include <sstream>
-#include <string>
-#include <vector>
-
-#include "tests/modules/markup_numeros.h"
-#include "modules/modulos.h"
-#include "problems/generic.h"
-#include "problems/idioma.h"
-#include "problems/texto.h"
+#include "tests/modules/dis_comun.h"
 
 namespace ss {
 namespace {
-
-Mensajes& Textos() {
-  static Mensajes m(SS_SOURCE_DIR);
-  return m;
-}
-
-struct Hecho {
-  std::string st, so;
-};
-
+using test::Textos;
+using Hecho = test::Problema;
 Hecho Genera(GenContext& g, int gen, int seqB, int items) {
   Hecho h;
-  const std::string cmd = ZeroPadCut(gen, 3) + "000" + ZeroPadCut(seqB, 4) + ZeroPadCut(items, 2) + "0301";
-  GeneraProblema(g, "ANEU_QUIM_DIS", cmd, h.st, h.so);
+  GeneraProblema(g, "ANEU_QUIM_DIS", ZeroPadCut(gen, 3) + "000" + ZeroPadCut(seqB, 4) + ZeroPadCut(items, 2) + "0301",
+                 h.st, h.so);
   return h;
 }
 
-// The text after `marca` up to the line's end; "" when there is no `marca`.
-std::string Tras(const std::string& m, const std::string& marca) {
-  const std::size_t at = m.find(marca);
-  if (at == std::string::npos) return "";
-  const std::size_t desde = at + marca.size();
-  return m.substr(desde, m.find("&LF", desde) - desde);
-}
-std::string Item(const std::string& m, int i) { return Tras(m, "&+B" + std::string(1, char('a' + i - 1)) + ")&-B "); }
-
+std::string Item(const std::string& m, int i) { return test::Tras(m, Etiqueta(i)); }
 int CuentaItems(const std::string& m) {
   int n = 0;
-  for (std::size_t at = m.find(")&-B "); at != std::string::npos; at = m.find(")&-B ", at + 1)) ++n;
+  while (n < 26 && !Item(m, n + 1).empty()) ++n;
   return n;
 }
 
@@ -69,278 +41,170 @@ std::vector<Cantidad> Datos(const std::string& linea, std::string* destino = nul
   return out;
 }
 
-// A unit's magnitude ("m", "m^2", "m^3", "g") and its size in m, m^2, m^3 or g.
+// A unit's magnitude and its size in m, m^2, m^3 or g.
 struct Medida {
   std::string magnitud;
   double tamano = 0;
 };
 
-Medida Metrica(std::string u) {
-  static const std::map<std::string, Medida> nombradas = {
-      {"ha", {"m^2", 1e4}}, {"a", {"m^2", 1e2}}, {"ca", {"m^2", 1}}};
+Medida Unidad(std::string u) {
+  static const std::map<std::string, Medida> fijas = {
+      {"ha", {"m^2", 1e4}},         {"a", {"m^2", 1e2}},          {"ca", {"m^2", 1}},
+      {"yd", {"m", 0.9144}},        {"mi", {"m", 1760 * 0.9144}}, {"ft", {"m", 0.9144 / 3}},
+      {"in", {"m", 0.9144 / 36}},   {"lb", {"g", 453.59237}},     {"oz", {"g", 453.59237 / 16}}};
   static const std::map<std::string, double> prefijos = {
       {"k", 1e3}, {"h", 1e2}, {"da", 1e1}, {"", 1}, {"d", 1e-1}, {"c", 1e-2}, {"m", 1e-3}};
-  if (nombradas.count(u)) return nombradas.at(u);
-  int potencia = 1;
-  if (u.size() > 2 && u[u.size() - 2] == '^') {
-    potencia = u.back() - '0';
-    u.resize(u.size() - 2);
-  }
-  const char base = u.back();
+  if (fijas.count(u)) return fijas.at(u);
+  const int potencia = u.size() > 2 && u[u.size() - 2] == '^' ? u.back() - '0' : 1;
+  if (potencia > 1) u.resize(u.size() - 2);
   const auto p = prefijos.find(u.substr(0, u.size() - 1));
   if (u.empty() || p == prefijos.end()) return {};
-  if (base == 'L' && potencia == 1) return {"m^3", p->second * 1e-3};
-  if (base == 'g' && potencia == 1) return {"g", p->second};
-  if (base == 'm') return {potencia == 1 ? "m" : "m^" + std::to_string(potencia), std::pow(p->second, potencia)};
+  if (u.back() == 'L' && potencia == 1) return {"m^3", p->second * 1e-3};
+  if (u.back() == 'g' && potencia == 1) return {"g", p->second};
+  if (u.back() == 'm') return {potencia == 1 ? "m" : "m^" + std::to_string(potencia), std::pow(p->second, potencia)};
   return {};
 }
 
-// ---------------------------------------------------------------------------
-// Decimal ladders.
+double ACelsius(double v, const std::string& u) { return u == "\xB0" "F" ? (v - 32) / 1.8 : u == "K" ? v - 273.15 : v; }
+double DesdeCelsius(double c, const std::string& u) { return u == "\xB0" "F" ? c * 1.8 + 32 : u == "K" ? c + 273.15 : c; }
 
-struct Escala {
+// Each generator: its ladder's magnitude and decades between neighbours
+// (0 for the imperial and temperature ones), most parts, the answer's range,
+// and which named units may appear.
+struct Caso {
   int gen;
   std::string magnitud;
-  double base;      // size of the ladder's unit 4
-  int potencia;     // decades between neighbouring units
-  int maxPartes;
+  int decadas, maxPartes, maxItems;
   double minimo, maximo;
-  bool litros, soloLitros, agrarias;
-  int nombradaDesde, nombradaHasta;
+  bool litros, agrarias;
+};
+const Caso kCasos[] = {
+    {11, "g", 1, 4, 8, 0.01, 1e8, false, false},      {12, "m", 1, 4, 8, 0.01, 1e8, false, false},
+    {13, "m^2", 2, 3, 8, 0.009, 9.9e8, false, false}, {14, "m^2", 2, 3, 8, 0.002, 9.9e8, false, true},
+    {15, "m^3", 3, 3, 8, 0.002, 9.9e8, false, false}, {16, "m^3", 1, 4, 8, 0.01, 1e8, true, false},
+    {17, "m^3", 3, 3, 8, 0.002, 9.9e8, true, false},  {18, "", 0, 1, 26, -1e9, 1e9, false, false},
+    {19, "", 0, 1, 26, -1e9, 1e9, false, false},      {20, "m", 0, 1, 26, 0, 1e9, false, false},
+    {21, "g", 0, 1, 26, 0, 1e9, false, false},
 };
 
-const Escala kEscalas[] = {
-    {11, "g", 1, 1, 4, 0.01, 1e8, false, false, false, 0, 0},
-    {12, "m", 1, 1, 4, 0.01, 1e8, false, false, false, 0, 0},
-    {13, "m^2", 1, 2, 3, 0.009, 9.9e8, false, false, false, 0, 0},
-    {14, "m^2", 1, 2, 3, 0.002, 9.9e8, false, false, true, 2, 4},
-    {15, "m^3", 1, 3, 3, 0.002, 9.9e8, false, false, false, 0, 0},
-    {16, "m^3", 1e-3, 1, 4, 0.01, 1e8, true, true, false, 0, 0},
-    {17, "m^3", 1, 3, 3, 0.002, 9.9e8, true, false, false, 4, 6},
-};
-
-int Indice(const Escala& e, const Medida& m) {
-  if (m.tamano <= 0) return 0;
-  return 4 - static_cast<int>(std::lround(std::log10(m.tamano / e.base) / e.potencia));
-}
-
-bool EsLitro(const std::string& u) { return u.back() == 'L'; }
-bool EsAgraria(const std::string& u) { return u == "ha" || u == "a" || u == "ca"; }
-
-void UnidadDeLaEscala(const Escala& e, const std::string& u) {
-  EXPECT_EQ(Metrica(u).magnitud, e.magnitud) << u;
-  EXPECT_TRUE(e.litros || !EsLitro(u)) << u;
-  EXPECT_TRUE(!e.soloLitros || EsLitro(u)) << u;
-  EXPECT_TRUE(e.agrarias || !EsAgraria(u)) << u;
-}
-
-// Checks every item of a decimal exercise and gathers the target indices.
-void CompruebaDecimal(const Escala& e, const Hecho& h, std::vector<int>& destinos) {
+// Checks every item and gives the target unit of each.
+std::vector<std::string> Comprueba(const Caso& c, const Hecho& h) {
+  std::vector<std::string> destinos;
+  std::set<std::string> lineas;
   for (int i = 1; i <= CuentaItems(h.st); ++i) {
-    SCOPED_TRACE("item " + std::to_string(i) + ": " + Item(h.st, i) + " -> " + Item(h.so, i));
+    SCOPED_TRACE(Item(h.st, i) + " -> " + Item(h.so, i));
+    EXPECT_TRUE(lineas.insert(Item(h.st, i)).second) << "an item twice";
     std::string destino;
     const auto partes = Datos(Item(h.st, i), &destino);
     const auto sol = Datos(Item(h.so, i));
-    UnidadDeLaEscala(e, destino);
-    const int t = Indice(e, Metrica(destino));
-    ASSERT_EQ(sol.size(), 1u);
-    EXPECT_EQ(sol[0].unidad, destino);
-    ASSERT_GE(partes.size(), 1u);
-    EXPECT_LE(static_cast<int>(partes.size()), e.maxPartes);
+    EXPECT_TRUE(sol.size() == 1 && sol[0].unidad == destino);
+    EXPECT_TRUE(!partes.empty() && static_cast<int>(partes.size()) <= c.maxPartes);
+    if (c.magnitud.empty()) {  // temperature
+      EXPECT_NEAR(sol.at(0).valor, DesdeCelsius(ACelsius(partes.at(0).valor, partes[0].unidad), destino), 0.005 + 1e-9);
+      EXPECT_TRUE(partes[0].valor >= (partes[0].unidad == "K" ? 0 : -200) && partes[0].valor <= 400);
+      destinos.push_back(destino);
+      continue;
+    }
+    const Medida a = Unidad(destino);
+    for (const Cantidad& p : partes) {
+      for (const std::string& u : {p.unidad, destino}) {  // named units only where the ladder has them
+        EXPECT_TRUE(c.litros || u.back() != 'L') << u;
+        EXPECT_TRUE(c.gen != 16 || u.back() == 'L') << u;
+        EXPECT_TRUE(c.agrarias || (u != "ha" && u != "a" && u != "ca")) << u;
+      }
+    }
     double esperado = 0;
     std::set<int> usadas;
     for (const Cantidad& p : partes) {
-      UnidadDeLaEscala(e, p.unidad);
-      const int u = Indice(e, Metrica(p.unidad));
-      EXPECT_TRUE(usadas.insert(u).second) << "a unit twice";
-      EXPECT_NE(u, t);
-      EXPECT_LT(std::abs(u - t), 6);
-      // Two digits, at most shown as thousandths in the big units and as
-      // hundreds in the small ones.
-      bool dosCifras = false;
-      for (int s : u < 4 ? std::vector{-3, -2, -1, 0} : u == 4 ? std::vector{0} : std::vector{0, 2}) {
-        const double n = p.valor / std::pow(10.0, s);
-        dosCifras |= std::fabs(n - std::round(n)) < 1e-9 && n >= 11 && n <= 99;
-      }
-      EXPECT_TRUE(dosCifras) << p.valor << " " << p.unidad;
-      esperado += p.valor * Metrica(p.unidad).tamano / Metrica(destino).tamano;
+      const Medida de = Unidad(p.unidad);
+      EXPECT_EQ(de.magnitud, c.magnitud) << p.unidad;
+      esperado += p.valor * de.tamano / a.tamano;
+      if (c.decadas == 0) continue;
+      const int pasos = static_cast<int>(std::lround(std::log10(de.tamano / a.tamano) / c.decadas));
+      EXPECT_TRUE(pasos != 0 && std::abs(pasos) < 6 && usadas.insert(pasos).second) << "a unit twice, the target, or far";
     }
-    EXPECT_TRUE(test::Cerca(sol[0].valor, esperado, 1e-12)) << sol[0].valor << " vs " << esperado;
-    EXPECT_GE(sol[0].valor, e.minimo);
-    EXPECT_LT(sol[0].valor, e.maximo);
-    destinos.push_back(t);
+    EXPECT_EQ(a.magnitud, c.magnitud) << destino;
+    if (c.decadas == 0) {
+      EXPECT_NEAR(sol.at(0).valor, esperado, 0.0005 + 1e-9 * esperado);
+    } else {
+      EXPECT_TRUE(test::Cerca(sol.at(0).valor, esperado, 1e-12)) << sol[0].valor << " vs " << esperado;
+    }
+    EXPECT_TRUE(sol[0].valor >= c.minimo && sol[0].valor < c.maximo);
+    destinos.push_back(destino);
+  }
+  return destinos;
+}
+
+TEST(Conversiones, EveryAnswerFollowsFromItsDataAndEveryItemDiffers) {
+  for (const Caso& c : kCasos) {
+    std::set<std::pair<std::string, std::string>> formas;
+    for (int seed = 1; seed <= 20; ++seed) {
+      GenContext g(&Textos(), Aleatorio(static_cast<uint64_t>(seed * 31 + c.gen)));
+      const Hecho h = Genera(g, c.gen, seed * 5, c.maxItems);
+      SCOPED_TRACE(h.st + "\n" + h.so);
+      EXPECT_EQ(CuentaItems(h.st), c.maxItems);
+      EXPECT_EQ(CuentaItems(h.so), c.maxItems);
+      const auto destinos = Comprueba(c, h);
+      for (int i = 1; i <= c.maxItems; ++i) formas.insert({Datos(Item(h.st, i)).at(0).unidad, destinos.at(i - 1)});
+      if (c.gen == 18 || c.gen == 19) {  // the scales stated; each form and its reverse by the counter
+        EXPECT_EQ(test::NumerosTras(h.st, ":&LF"), (std::vector<double>{1.8, 32, 273.15}));
+        static const std::string s[] = {"\xB0" "C", "\xB0" "F", "\xB0" "C", "K", "\xB0" "F", "K"};
+        for (int i = 1; i <= c.maxItems; ++i) {
+          const int f = ((seed * 5 + i) % 6) ^ (c.gen == 19);
+          EXPECT_EQ(Datos(Item(h.st, i)).at(0).unidad + " " + destinos.at(i - 1), s[f] + " " + s[f ^ 1]) << i;
+        }
+      }
+      if (c.gen >= 20)  // the chains of equivalences the statement gives hold
+        for (std::stringstream cs(test::Tras(h.st, ":&LF")); !cs.eof();) {
+          std::string cadena;
+          std::getline(cs, cadena, ';');
+          const auto iguales = Datos(cadena);
+          for (const Cantidad& q : iguales)
+            EXPECT_TRUE(test::Cerca(q.valor * Unidad(q.unidad).tamano, iguales.at(0).valor * Unidad(iguales[0].unidad).tamano, 1e-12));
+        }
+    }
+    if (c.gen >= 20) {  // every conversion, both ways
+      EXPECT_EQ(formas.size(), c.gen == 20 ? 22u : 10u);
+      for (const auto& [de, a] : formas) EXPECT_TRUE(formas.count({a, de})) << de << " -> " << a;
+    }
   }
 }
 
-TEST(ConversionesDecimales, EveryAnswerIsTheSumOfItsPartsInTheTargetUnit) {
-  for (const Escala& e : kEscalas) {
-    int siguenAlContador = 0, total = 0;
-    for (int seed = 1; seed <= 12; ++seed) {
-      GenContext g(&Textos(), Aleatorio(static_cast<uint64_t>(seed * 31 + e.gen)));
-      const int seqB = seed * 5;
-      const Hecho h = Genera(g, e.gen, seqB, 8);
-      SCOPED_TRACE(std::to_string(e.gen) + "\n" + h.st + "\n" + h.so);
-      std::vector<int> t;
-      CompruebaDecimal(e, h, t);
-      ASSERT_EQ(t.size(), 8u);
-      for (std::size_t k = 0; k < t.size(); ++k, ++total) {
-        siguenAlContador += t[k] == (seqB + static_cast<int>(k) + 1) % 7 + 1;
-        // Neighbours share a target only when a chance moved one of them.
-        const bool movido = t[k] == 4 || t[k] == 7 || (t[k] >= e.nombradaDesde && t[k] <= e.nombradaHasta);
-        EXPECT_TRUE(k == 0 || t[k] != t[k - 1] || movido) << k;
-      }
-    }
-    EXPECT_GT(siguenAlContador * 10, total * 6) << "targets follow the variant counter";
-  }
+TEST(Conversiones, ItemCountsKeepToTheirBounds) {
+  GenContext g(&Textos(), Aleatorio(3));
+  for (int gen = 11; gen <= 21; ++gen)
+    for (const auto& [pedidos, dados] : std::map<int, int>{{0, 2}, {1, 2}, {5, 5}, {30, gen <= 17 ? 8 : 26}})
+      EXPECT_EQ(CuentaItems(Genera(g, gen, 3, pedidos).st), dados) << gen << " " << pedidos;
+  g.GP_Items = 30;  // a wrapper's bound stops at the alphabet
+  g.GP_MaxItems = "027";
+  ConversionesDecimales(g, Escalera::Volumen);
+  EXPECT_EQ(Comprueba(kCasos[4], {g.GP_Statement, g.GP_Solution}).size(), 26u);
 }
 
 // A source whose every value lies below 0.9: no chance fires, so each target
 // and each choice of named units follows the variant counter alone.
-Aleatorio SinSorpresas() {
-  std::mt19937 gen(2024);
-  std::uniform_real_distribution<double> below(0, 0.899);
+TEST(Conversiones, WithoutChancesTargetsAndNamedUnitsFollowTheCounter) {
+  std::mt19937 azar(2024);
+  std::uniform_real_distribution<double> bajo(0, 0.899);
   std::vector<double> v(4999);
-  for (double& x : v) x = below(gen);
-  return Aleatorio::Guionado(v);
-}
-
-TEST(ConversionesDecimales, WithoutChancesTargetsAndNamedUnitsFollowTheCounter) {
-  for (const Escala& e : kEscalas) {
+  for (double& x : v) x = bajo(azar);
+  for (const Caso& c : kCasos) {
+    if (c.decadas == 0) continue;
     for (int seqB : {0, 1, 2, 11}) {
-      GenContext g(&Textos(), SinSorpresas());
-      const Hecho h = Genera(g, e.gen, seqB, 8);
-      SCOPED_TRACE(h.st);
-      std::vector<int> t;
-      CompruebaDecimal(e, h, t);
-      ASSERT_EQ(t.size(), 8u);
+      GenContext g(&Textos(), Aleatorio::Guionado(v));
+      const Hecho h = Genera(g, c.gen, seqB, 8);
+      const auto destinos = Comprueba(c, h);
       for (int i = 1; i <= 8; ++i) {
-        EXPECT_EQ(t[i - 1], (seqB + i) % 7 + 1);
-        if (e.nombradaDesde == 0) continue;
-        std::string destino;
-        const auto partes = Datos(Item(h.st, i), &destino);
-        const bool nombrada = (seqB + i) % 3 != 0;
-        const bool tieneGemela = t[i - 1] >= e.nombradaDesde && t[i - 1] <= e.nombradaHasta;
-        EXPECT_EQ(EsLitro(destino) || EsAgraria(destino), nombrada && tieneGemela) << destino;
-        for (const Cantidad& p : partes)
-          EXPECT_TRUE(!nombrada || !(EsLitro(p.unidad) || EsAgraria(p.unidad))) << p.unidad;
+        const std::string& d = destinos.at(i - 1);
+        const bool nombrada = std::set<std::string>{"kL", "L", "mL", "ha", "a", "ca"}.count(d) > 0;
+        const double paso = std::pow(10.0, c.decadas);
+        const int indice = 4 - static_cast<int>(std::lround(std::log10(Unidad(d).tamano / (c.gen == 16 ? 1e-3 : 1)) / std::log10(paso)));
+        EXPECT_EQ(indice, (seqB + i) % 7 + 1) << d;
+        if (c.gen == 14 || c.gen == 17)
+          EXPECT_EQ(nombrada, (seqB + i) % 3 != 0 && indice >= (c.gen == 14 ? 2 : 4) && indice <= (c.gen == 14 ? 4 : 6)) << d;
       }
     }
   }
 }
-
-TEST(ConversionesDecimales, CalledWithAWrappersBoundTheyStopAtTheAlphabet) {
-  GenContext g(&Textos(), Aleatorio(7));
-  g.GP_Items = 30;
-  g.GP_MaxItems = "027";
-  ConversionesDecimales(g, Escalera::Volumen);
-  std::vector<int> t;
-  CompruebaDecimal(kEscalas[4], {g.GP_Statement, g.GP_Solution}, t);
-  EXPECT_EQ(t.size(), 26u);
-}
-
-// ---------------------------------------------------------------------------
-// Item counts of every conversion generator.
-
-TEST(Conversiones, ItemCountsKeepToTheirBounds) {
-  GenContext g(&Textos(), Aleatorio(3));
-  for (int gen = 11; gen <= 21; ++gen) {
-    const int tope = gen <= 17 ? 8 : 26;
-    for (const auto& [pedidos, dados] : std::map<int, int>{{0, 2}, {1, 2}, {5, 5}, {30, tope}}) {
-      const Hecho h = Genera(g, gen, 3, pedidos);
-      EXPECT_EQ(CuentaItems(h.st), dados) << gen << " " << pedidos << "\n" << h.st;
-      EXPECT_EQ(CuentaItems(h.so), dados) << gen << " " << pedidos;
-    }
-  }
-}
-
-// ---------------------------------------------------------------------------
-// Temperature.
-
-double ACelsius(double v, const std::string& u) {
-  return u == "\xB0" "F" ? (v - 32) * 5 / 9 : u == "K" ? v - 273.15 : v;
-}
-double DesdeCelsius(double c, const std::string& u) {
-  return u == "\xB0" "F" ? c * 9 / 5 + 32 : u == "K" ? c + 273.15 : c;
-}
-
-TEST(ConversionesTemperatura, AnswersFollowTheScalesAndTheFlagTurnsEachFormRound) {
-  const std::string c = "\xB0" "C", f = "\xB0" "F", k = "K";
-  const std::pair<std::string, std::string> formas[] = {{c, f}, {f, c}, {c, k}, {k, c}, {f, k}, {k, f}};
-  for (int seqB = 0; seqB < 12; ++seqB) {
-    for (int gen : {18, 19}) {
-      GenContext g(&Textos(), Aleatorio(static_cast<uint64_t>(seqB * 3 + gen)));
-      const Hecho h = Genera(g, gen, seqB, 12);
-      SCOPED_TRACE(h.st + "\n" + h.so);
-      EXPECT_EQ(test::NumerosTras(h.st, ":&LF"), (std::vector<double>{1.8, 32, 273.15}));
-      ASSERT_EQ(CuentaItems(h.st), 12);
-      for (int i = 1; i <= 12; ++i) {
-        std::string destino;
-        const auto d = Datos(Item(h.st, i), &destino);
-        const auto s = Datos(Item(h.so, i));
-        ASSERT_EQ(d.size(), 1u);
-        ASSERT_EQ(s.size(), 1u);
-        auto forma = formas[(seqB + i) % 6];
-        if (gen == 19) std::swap(forma.first, forma.second);
-        EXPECT_EQ(d[0].unidad, forma.first);
-        EXPECT_EQ(destino, forma.second);
-        EXPECT_EQ(s[0].unidad, forma.second);
-        EXPECT_GE(d[0].valor, d[0].unidad == k ? 0 : -200);
-        EXPECT_LE(d[0].valor, d[0].unidad == k ? 400 : 212);
-        EXPECT_NEAR(s[0].valor, DesdeCelsius(ACelsius(d[0].valor, d[0].unidad), destino), 0.005 + 1e-9);
-      }
-    }
-  }
-}
-
-// ---------------------------------------------------------------------------
-// Imperial units: sizes in metres and grams from their definitions.
-
-const std::map<std::string, Medida> kImperiales = {
-    {"yd", {"m", 0.9144}},        {"mi", {"m", 1760 * 0.9144}}, {"ft", {"m", 0.9144 / 3}},
-    {"in", {"m", 0.9144 / 36}},   {"lb", {"g", 453.59237}},     {"oz", {"g", 453.59237 / 16}}};
-
-Medida Cualquiera(const std::string& u) { return kImperiales.count(u) ? kImperiales.at(u) : Metrica(u); }
-
-void CompruebaImperial(int gen, std::size_t formas) {
-  std::set<std::pair<std::string, std::string>> vistas;
-  for (int seed = 1; seed <= 20; ++seed) {
-    GenContext g(&Textos(), Aleatorio(static_cast<uint64_t>(seed + gen)));
-    const Hecho h = Genera(g, gen, seed, 26);
-    SCOPED_TRACE(h.st + "\n" + h.so);
-    // Every chain of equivalences the statement gives holds.
-    std::stringstream cadenas(Tras(h.st, ":&LF"));
-    int vistasCadenas = 0;
-    for (std::string cadena; std::getline(cadenas, cadena, ';'); ++vistasCadenas) {
-      const auto iguales = Datos(cadena);
-      ASSERT_GE(iguales.size(), 2u) << cadena;
-      for (const Cantidad& q : iguales)
-        EXPECT_TRUE(test::Cerca(q.valor * Cualquiera(q.unidad).tamano,
-                                iguales[0].valor * Cualquiera(iguales[0].unidad).tamano, 1e-12))
-            << q.unidad;
-    }
-    EXPECT_GE(vistasCadenas, 1);
-    for (int i = 1; i <= 26; ++i) {
-      std::string destino;
-      const auto d = Datos(Item(h.st, i), &destino);
-      const auto s = Datos(Item(h.so, i));
-      ASSERT_EQ(d.size(), 1u);
-      ASSERT_EQ(s.size(), 1u);
-      EXPECT_EQ(s[0].unidad, destino);
-      const Medida de = Cualquiera(d[0].unidad), a = Cualquiera(destino);
-      EXPECT_EQ(de.magnitud, a.magnitud);
-      EXPECT_TRUE(kImperiales.count(d[0].unidad) || kImperiales.count(destino));
-      EXPECT_GE(d[0].valor, 1);
-      EXPECT_LE(d[0].valor, 8000);
-      EXPECT_NEAR(s[0].valor, d[0].valor * de.tamano / a.tamano, 0.0005 + 1e-9 * s[0].valor);
-      vistas.insert({d[0].unidad, destino});
-    }
-  }
-  EXPECT_EQ(vistas.size(), formas);
-  for (const auto& [de, a] : vistas) EXPECT_TRUE(vistas.count({a, de})) << de << " -> " << a;
-}
-
-TEST(ConversionesImperiales, LengthsAnswerByTheFactorsInAll22Forms) { CompruebaImperial(20, 22); }
-TEST(ConversionesImperiales, MassesAnswerByTheFactorsInAll10Forms) { CompruebaImperial(21, 10); }
-
 }  // namespace
 }  // namespace ss
