@@ -241,7 +241,9 @@ TEST(Robustness, AnyTextIsLaidOutWithoutHarmAndBothPassesAgree) {
     m.NumCaja = 1;
     m.InterpretaTexto(texto);
     EXPECT_EQ(std::pair(m.NumCaja, m.LineaRota()), cajas) << texto;
-    if (i < 4) EXPECT_GT(cajas.first, 6) << texto;
+    if (i < 4) {
+      EXPECT_GT(cajas.first, 6) << texto;
+    }
     m.ComponerTexto(texto, 12, c);
   }
   // Deep nesting stops at the last box.
