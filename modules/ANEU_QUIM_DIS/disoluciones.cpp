@@ -206,8 +206,6 @@ double Cifras(double x, int n) {
 
 // ---- Text -------------------------------------------------------------------
 
-std::string Con(double x, std::string_view unidad) { return NumTexto(x) + "& " + std::string(unidad); }
-
 // An answer with its unit.
 std::string Respuesta(double x, std::string_view unidad) {
   return TextoRespuesta(x) + "& " + std::string(unidad);

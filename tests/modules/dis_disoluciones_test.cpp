@@ -165,7 +165,7 @@ TEST(DisDisoluciones, EveryAnswerFollowsFromThePrintedData) {
       if (n && v.d.Tiene("%") && c.gen <= 3 && (c.gen != 2 || v.d.Tiene("g/mL"))) {
         const double pct = v.d.En("%");
         EXPECT_LE(pct, PorcentajeMaximo(n->s));
-        if (v.d.Tiene("g/mL")) EXPECT_NEAR(v.d.En("g/mL"), Densidad(n->s, pct), 0.0005 + 1e-9);
+        if (v.d.Tiene("g/mL")) { EXPECT_NEAR(v.d.En("g/mL"), Densidad(n->s, pct), 0.0005 + 1e-9); }
       }
       if (c.gen == 5) {  // a dilute solution whose change of temperature can be read
         const double t = v.d.Tiene("\xB0" "C") ? v.d.En("\xB0" "C") : mostradas[0].valor;

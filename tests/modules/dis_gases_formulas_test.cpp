@@ -71,14 +71,14 @@ TEST(DisGases, EveryAnswerFollowsFromThePrintedDataAndConstants) {
       // Real conditions: temperatures within bounds, pressures a gas bears.
       const Datos todos(frase + " " + p.so);
       for (const auto& [x, u] : todos.Todos()) {
-        if (u == "atm") EXPECT_LE(x, 30);
-        if (u == "\xB0" "C") EXPECT_TRUE(x >= -50 && x <= 1000) << x;
+        if (u == "atm") { EXPECT_LE(x, 30); }
+        if (u == "\xB0" "C") { EXPECT_TRUE(x >= -50 && x <= 1000) << x; }
       }
-      if (c.forma == 8 && c.gen == 9) EXPECT_NE(gases.at(0), gases.at(1));
+      if (c.forma == 8 && c.gen == 9) { EXPECT_NE(gases.at(0), gases.at(1)); }
       for (std::size_t i = 0; i < gases.size(); ++i) {
         const double P = c.forma == 8 ? esperadas[i] * v.k[0] * v.T() / v.d.En("L")
                          : c.forma == 5 || c.forma == 6 ? esperadas[0] : v.P();
-        if (kEbullicion.count(gases[i]) && v.d.En("\xB0" "C") < kEbullicion.at(gases[i])) EXPECT_LT(P, 1);
+        if (kEbullicion.count(gases[i]) && v.d.En("\xB0" "C") < kEbullicion.at(gases[i])) { EXPECT_LT(P, 1); }
       }
       distintos.insert(frase);
     }
@@ -137,15 +137,15 @@ TEST(DisFormulas, MassMolesParticlesAndCompositionFollowFromTheListedMasses) {
         ASSERT_TRUE(dada != kNinguna && pedida != kNinguna && dada != pedida) << item << " -> " << respuesta;
         clases.insert(dada * 10 + pedida);
         const bool ionico = c[0].first != "H" && std::any_of(c.begin(), c.end(), [&](const auto& e) { return metales.count(e.first); });
-        if (ionico) EXPECT_EQ((item + respuesta).find("molecules"), std::string::npos) << "formula units of a salt";
-        if (!ionico && c[0].first == "H") EXPECT_EQ((item + respuesta).find("formula units"), std::string::npos);
+        if (ionico) { EXPECT_EQ((item + respuesta).find("molecules"), std::string::npos) << "formula units of a salt"; }
+        if (!ionico && c[0].first == "H") { EXPECT_EQ((item + respuesta).find("formula units"), std::string::npos); }
         const double NA = (dada >= kParticulas || pedida >= kParticulas) ? NumerosTras(p.st, "Avogadro's number:").at(0) : 1;
         const int oxigenos = std::accumulate(c.begin(), c.end(), 0, [](int s, const auto& e) { return s + (e.first == "O") * e.second; });
         const double f[] = {M, 1, NA, NA * oxigenos};  // each kind per mole
         EsperaCerca({y, INFINITY}, x / f[dada] * f[pedida]);
       }
     }
-    if (gen == 6) EXPECT_GE(clases.size(), 10u) << "every form";
+    if (gen == 6) { EXPECT_GE(clases.size(), 10u) << "every form"; }
   }
 }
 

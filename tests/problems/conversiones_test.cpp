@@ -200,8 +200,9 @@ TEST(Conversiones, WithoutChancesTargetsAndNamedUnitsFollowTheCounter) {
         const double paso = std::pow(10.0, c.decadas);
         const int indice = 4 - static_cast<int>(std::lround(std::log10(Unidad(d).tamano / (c.gen == 16 ? 1e-3 : 1)) / std::log10(paso)));
         EXPECT_EQ(indice, (seqB + i) % 7 + 1) << d;
-        if (c.gen == 14 || c.gen == 17)
+        if (c.gen == 14 || c.gen == 17) {
           EXPECT_EQ(nombrada, (seqB + i) % 3 != 0 && indice >= (c.gen == 14 ? 2 : 4) && indice <= (c.gen == 14 ? 4 : 6)) << d;
+        }
       }
     }
   }
