@@ -126,11 +126,13 @@ TEST(ArbolToVar, StopsAtFiveHundredProblems) {
   EXPECT_EQ(col.problemas.back().Orden, 5);  // 5 x 99 = 495, then 5 of the sixth row
 }
 
-TEST(Arbol, HoldsAtMost390RowsBesideTheEmptyRow0) {
+TEST(Arbol, EveryRowIsKeptAndTheNewRowIsHandedBack) {
   Arbol a;
   EXPECT_EQ(a.Count(), 0);
-  for (int i = 0; i < 400; ++i) a.Agrega(ArbolItem{});
-  EXPECT_EQ(a.Count(), kMaxFilasArbol);
+  for (int i = 1; i <= 400; ++i) a.Agrega(ArbolItem{}).Rutina = static_cast<int16_t>(i);
+  ASSERT_EQ(a.Count(), 400);
+  EXPECT_EQ(a.filas[390].Rutina, 390);
+  EXPECT_EQ(a.filas[400].Rutina, 400);
 }
 
 }  // namespace

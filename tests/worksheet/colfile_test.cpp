@@ -32,7 +32,7 @@ class PlataformaGrabadora : public PlataformaMuda {
   void TituloVentana(const QString& t) override { titulos.push_back(t); }
   void Reciente(const QString& r) override { recientes.push_back(r); }
   void EstadoDocumento(bool a) override { estados.push_back(a); }
-  void GuardarComo() override { ++guardarComo; }
+  bool GuardarComo() override { ++guardarComo; return false; }
 };
 
 // One run of the program: its own program folder (with img/), scratch folder
