@@ -552,6 +552,15 @@ enum class Guardado { Hecho, Fallo, Protegido };
 Guardado Guarda(Sesion& s) {
   Documento& doc = s.doc;
   Ocupacion ocupado(doc);
+  const std::string ruta = TextoDeRuta(doc.ruta);
+  const std::string aviso = s.textos.GetL_win("CantSaveFile") + std::string(kSalto) + ruta +
+                            std::string(kSalto) + std::string(kSalto);
+  // A header text the file cannot hold is refused before anything is written.
+  if (const auto malo = CabeceraNoGuardable(doc.col.cab)) {
+    s.plataforma.Critico(aviso + "The header text " + malo->campo + " holds \"" + malo->etiqueta +
+                         "\", which a worksheet file cannot store. Change that text and save again.");
+    return Guardado::Fallo;
+  }
   const std::string base = TextoColeccion(doc.col);
   std::string texto = base;
 
@@ -604,15 +613,8 @@ Guardado Guarda(Sesion& s) {
     return Guardado::Hecho;
   }
 
-  const std::string ruta = TextoDeRuta(doc.ruta);
-  const std::string aviso = s.textos.GetL_win("CantSaveFile") + std::string(kSalto) + ruta +
-                            std::string(kSalto) + std::string(kSalto);
   if (noRelee) {
-    std::string porque = "The file written would not read back as this worksheet, so the old file was kept.";
-    if (const auto malo = CabeceraNoGuardable(doc.col.cab))
-      porque = "The header text " + std::string(malo->campo) + " holds \"" + malo->etiqueta +
-               "\", which a worksheet file cannot store, so the old file was kept.";
-    s.plataforma.Critico(aviso + porque);
+    s.plataforma.Critico(aviso + "The file written did not read back as this worksheet, so the old file was kept.");
     return Guardado::Fallo;
   }
   if (fallo->numero == 75) {
