@@ -118,15 +118,9 @@ TEST(Ajustes, TheWizardsChoicesRoundTrip) {
   AlmacenMemoria al;
   Textos t;
   Ajustes a = LeeAjustes(al, *t.textos);
-  a.ordena = false;
-  a.solpos = 2;
-  a.pagpos = 9;
-  a.procol = 65280;
-  a.propre = "Problem ";
-  a.prosuf = ".";
-  a.asignatura = "Chemistry \xE9";
-  a.sysedu = "Secondary_Chemistry.sed";
-  a.showavan = true;
+  std::tie(a.ordena, a.solpos, a.pagpos, a.procol, a.propre, a.prosuf, a.asignatura, a.sysedu,
+           a.showavan) = std::make_tuple(false, 2, 9, 65280, "Problem ", ".", "Chemistry \xE9",
+                                         "Secondary_Chemistry.sed", true);
   GuardarAjustesAsistente(a, al);
   const Ajustes b = LeeAjustes(al, *t.textos);
   EXPECT_EQ(std::tie(b.ordena, b.solpos, b.pagpos, b.procol, b.propre, b.prosuf, b.asignatura,

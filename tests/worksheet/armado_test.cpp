@@ -57,13 +57,8 @@ struct Entorno {
     doc.col.cab.POSNUMPAG = posnumpag;
   }
   Coleccion& col() { return doc.col; }
-  void Agrega(std::string enunciado, std::string solucion, std::string modulo = "ANEU_QUIM_TER") {
-    Problema p;
-    p.Modulo = std::move(modulo);
-    p.Rutina = 1;
-    p.Enunciado = std::move(enunciado);
-    p.Solucion = std::move(solucion);
-    doc.col.problemas.push_back(std::move(p));
+  void Agrega(std::string enunciado, std::string solucion) {  // a module without generators
+    doc.col.problemas.push_back(Problema{"ANEU_QUIM_TER", 1, 0, 0, 0, 0, 0, enunciado, solucion});
     doc.col.cab.NPROB = static_cast<int32_t>(doc.col.problemas.size());
   }
   int Compone(const std::string& texto) {
@@ -79,11 +74,6 @@ struct Entorno {
 
 std::string Etiqueta(const std::string& n) {
   return "&BC= 255; 255; 255:&FF=REC,20,5.5:" + n + " &BC=Blanco:&FF=REC,20,5.5:";
-}
-std::string Lineas(int n) {
-  std::string t;
-  for (int i = 0; i < n; ++i) t += "line " + std::to_string(i) + "&LF";
-  return t;
 }
 
 // ---------------------------------------------------------------- blocks
@@ -136,18 +126,14 @@ TEST(ArmarBloques, BlocksFollowWhereTheSolutionsGo) {
 
 TEST(ArmarBloques, LabelsTakePrefixSuffixFirstNumberAndColour) {
   Entorno e;
-  e.col().cab.PROINI = 5;
-  e.col().cab.PROPRE = "P";
-  e.col().cab.PROSUF = ")";
+  std::tie(e.col().cab.PROINI, e.col().cab.PROPRE, e.col().cab.PROSUF) = std::make_tuple(5, "P", ")");
   for (int i = 0; i < 3; ++i) e.Agrega("x&LF", "");
-  for (int32_t color : {0x123456, 0, 0xFF, 0xFF0000, 0x00FF00, 16777215}) {
+  // The colour's three bytes, red lowest, each written with its blank.
+  for (auto [color, fondo] : {std::pair{0x123456, "&BC= 86; 52; 18:"}, {0xFF0000, "&BC= 0; 0; 255:"}}) {
     e.col().cab.COLRESPRO = color;
     ArmarBloques(e.s, 0);
-    const std::string fondo = "&BC= " + std::to_string(color & 0xFF) + "; " +
-                              std::to_string((color >> 8) & 0xFF) + "; " +
-                              std::to_string((color >> 16) & 0xFF) + ":&FF=REC,20,5.5:";
-    EXPECT_EQ(e.doc.bloques[2].Texto,
-              "#MARK=003&+B" + fondo + "P7) &BC=Blanco:&FF=REC,20,5.5:&-B& x&LF&LF");
+    EXPECT_EQ(e.doc.bloques[2].Texto, "#MARK=003&+B" + std::string(fondo) +
+                                          "&FF=REC,20,5.5:P7) &BC=Blanco:&FF=REC,20,5.5:&-B& x&LF&LF");
   }
 }
 
@@ -291,14 +277,16 @@ TEST(Paginar, TheNumbersFreeLineGoesByItsCodeAndPagesFillPastTheWindowOf49) {
 }
 
 TEST(Paginar, ABlockTallerThanAPageIsCutOnAPageOfItsOwn) {
+  std::string lineas;
+  for (int i = 0; i < 120; ++i) lineas += "line " + std::to_string(i) + "&LF";
   struct Caso {
     int possol, donde, proini;
     std::string alto;
     std::string aviso;
   } casos[] = {
-      {0, 0, 1, Lineas(120), "Problem 1 is taller than a page: it has page 1 to itself"},
-      {0, 5, 1, Lineas(120), "Problem 6 is taller than a page: it has page 2 to itself"},
-      {3, 1, 10, Lineas(120), "Problem 11 is taller than a page: it has page 2 to itself"},
+      {0, 0, 1, lineas, "Problem 1 is taller than a page: it has page 1 to itself"},
+      {0, 5, 1, lineas, "Problem 6 is taller than a page: it has page 2 to itself"},
+      {3, 1, 10, lineas, "Problem 11 is taller than a page: it has page 2 to itself"},
       {1, 2, 1, std::string(1 << 20, 'w'), "Problem 3 is taller than a page: it has page 2"},
   };
   for (const Caso& c : casos) {
