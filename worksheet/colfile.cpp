@@ -187,7 +187,6 @@ int16_t Cifras(std::string_view t) {
 enum class SiFalta { Vacia, Invalido, InvalidoConRuta };
 
 struct CampoCab {
-  const char* nombre;
   const char* cierre;
   std::size_t abre;  // the length of the opening tag
   SiFalta siFalta;
@@ -196,23 +195,23 @@ struct CampoCab {
 
 // The header, tag by tag, in the order they are written.
 constexpr CampoCab kCampos[] = {
-    {"PRETIT", "#PRETIT)", 8, SiFalta::Vacia, [](ColeccionCab& c, std::string_view v) { c.PRETIT = v; }},
-    {"TITULO", "#TITULO)", 8, SiFalta::Invalido, [](ColeccionCab& c, std::string_view v) { c.TITULO = v; }},
-    {"POSTI1", "#POSTI1)", 8, SiFalta::Vacia, [](ColeccionCab& c, std::string_view v) { c.POSTI1 = v; }},
-    {"POSTI2", "#POSTI2)", 8, SiFalta::Vacia, [](ColeccionCab& c, std::string_view v) { c.POSTI2 = v; }},
-    {"POSNUMPAG", "#POSNUMPAG)", 11, SiFalta::Invalido,
+    {"#PRETIT)", 8, SiFalta::Vacia, [](ColeccionCab& c, std::string_view v) { c.PRETIT = v; }},
+    {"#TITULO)", 8, SiFalta::Invalido, [](ColeccionCab& c, std::string_view v) { c.TITULO = v; }},
+    {"#POSTI1)", 8, SiFalta::Vacia, [](ColeccionCab& c, std::string_view v) { c.POSTI1 = v; }},
+    {"#POSTI2)", 8, SiFalta::Vacia, [](ColeccionCab& c, std::string_view v) { c.POSTI2 = v; }},
+    {"#POSNUMPAG)", 11, SiFalta::Invalido,
      [](ColeccionCab& c, std::string_view v) { c.POSNUMPAG = Entero(Val(v)); }},
-    {"COLRESPRO", "#COLRESPRO)", 11, SiFalta::InvalidoConRuta,
+    {"#COLRESPRO)", 11, SiFalta::InvalidoConRuta,
      [](ColeccionCab& c, std::string_view v) { c.COLRESPRO = Entero(Val(v)); }},
-    {"ORDENA", "#ORDENA)", 8, SiFalta::Invalido,
+    {"#ORDENA)", 8, SiFalta::Invalido,
      [](ColeccionCab& c, std::string_view v) { c.ORDENA = Val(v) == 1 ? kVerdadero : int16_t{0}; }},
-    {"PAGINI", "#PAGINI)", 8, SiFalta::Invalido,
+    {"#PAGINI)", 8, SiFalta::Invalido,
      [](ColeccionCab& c, std::string_view v) { c.PAGINI = Entero(Val(v)); }},
-    {"POSSOL", "#POSSOL)", 8, SiFalta::Invalido,
+    {"#POSSOL)", 8, SiFalta::Invalido,
      [](ColeccionCab& c, std::string_view v) { c.POSSOL = Entero(Val(v)); }},
-    {"PROPRE", "#PROPRE)", 8, SiFalta::Invalido, [](ColeccionCab& c, std::string_view v) { c.PROPRE = v; }},
-    {"PROSUF", "#PROSUF)", 8, SiFalta::Invalido, [](ColeccionCab& c, std::string_view v) { c.PROSUF = v; }},
-    {"PROINI", "#PROINI)", 8, SiFalta::Invalido,
+    {"#PROPRE)", 8, SiFalta::Invalido, [](ColeccionCab& c, std::string_view v) { c.PROPRE = v; }},
+    {"#PROSUF)", 8, SiFalta::Invalido, [](ColeccionCab& c, std::string_view v) { c.PROSUF = v; }},
+    {"#PROINI)", 8, SiFalta::Invalido,
      [](ColeccionCab& c, std::string_view v) { c.PROINI = Entero(Val(v)); }},
 };
 

@@ -56,33 +56,33 @@ TEST(Ajustes, DefaultsComeFromTheLanguageFileAndTheStoreOverrides) {
 }
 
 TEST(Ajustes, StoredValuesAndTheirRules) {
-  struct Case {
-    const char *seccion, *clave, *valor;
-    std::function<void(const Ajustes&)> comprueba;
-  } cases[] = {
-      {"Wizard", "Solpos", "", [](const Ajustes& a) { EXPECT_EQ(a.solpos, 1); }},
-      {"Wizard", "Solpos", "2", [](const Ajustes& a) { EXPECT_EQ(a.solpos, 2); }},
-      {"Wizard", "Solpos", "-99999999999", [](const Ajustes& a) { EXPECT_EQ(a.solpos, 0); }},
-      {"Wizard", "Procol", "0", [](const Ajustes& a) { EXPECT_EQ(a.procol, 16777215); }},
-      {"Wizard", "Procol", "255", [](const Ajustes& a) { EXPECT_EQ(a.procol, 255); }},
-      {"Wizard", "Procol", "99999999999", [](const Ajustes& a) { EXPECT_EQ(a.procol, 16777215); }},
-      {"Wizard", "Pagpos", "1E300", [](const Ajustes& a) { EXPECT_EQ(a.pagpos, 15); }},
-      {"Wizard", "Pagpos", "9", [](const Ajustes& a) { EXPECT_EQ(a.pagpos, 9); }},
-      {"INTERV", "LEFT_OPEN", "]",
-       [](const Ajustes& a) { EXPECT_EQ(a.intervaloAbre + a.intervaloCierra, "]["); }},
-      {"INTERV", "LEFT_OPEN", "[",
-       [](const Ajustes& a) { EXPECT_EQ(a.intervaloAbre + a.intervaloCierra, "()"); }},
-      {"Wizard", "Ordena", "N", [](const Ajustes& a) { EXPECT_FALSE(a.ordena); }},
-      {"INI_WIN", "SHOW", "0", [](const Ajustes& a) { EXPECT_FALSE(a.mostrarPanelInicio); }},
-      {"Ver", "EdicBotones", "S", [](const Ajustes& a) { EXPECT_TRUE(a.botonesEdicion); }},
-      {"DIVISION", "PRIMARY", ":", [](const Ajustes& a) { EXPECT_EQ(a.division, ":"); }},
+  // The settings a stored value may change, in one line.
+  auto vista = [](const Ajustes& a) {
+    return std::to_string(a.solpos) + " " + std::to_string(a.procol) + " " + std::to_string(a.pagpos) +
+           " " + a.intervaloAbre + a.intervaloCierra + " " + a.division + " " + std::to_string(a.ordena) +
+           std::to_string(a.mostrarPanelInicio) + std::to_string(a.botonesEdicion);
+  };
+  const char* casos[][4] = {
+      {"Wizard", "Solpos", "", "1 16777215 11 () \xF7 110"},
+      {"Wizard", "Solpos", "2", "2 16777215 11 () \xF7 110"},
+      {"Wizard", "Solpos", "-99999999999", "0 16777215 11 () \xF7 110"},
+      {"Wizard", "Procol", "0", "3 16777215 11 () \xF7 110"},
+      {"Wizard", "Procol", "255", "3 255 11 () \xF7 110"},
+      {"Wizard", "Procol", "99999999999", "3 16777215 11 () \xF7 110"},
+      {"Wizard", "Pagpos", "1E300", "3 16777215 15 () \xF7 110"},
+      {"Wizard", "Pagpos", "9", "3 16777215 9 () \xF7 110"},
+      {"INTERV", "LEFT_OPEN", "]", "3 16777215 11 ][ \xF7 110"},
+      {"INTERV", "LEFT_OPEN", "[", "3 16777215 11 () \xF7 110"},
+      {"Wizard", "Ordena", "N", "3 16777215 11 () \xF7 010"},
+      {"INI_WIN", "SHOW", "0", "3 16777215 11 () \xF7 100"},
+      {"Ver", "EdicBotones", "S", "3 16777215 11 () \xF7 111"},
+      {"DIVISION", "PRIMARY", ":", "3 16777215 11 () : 110"},
   };
   Textos t;
-  for (const auto& c : cases) {
+  for (const auto& c : casos) {
     AlmacenMemoria al;
-    al.Escribe(c.seccion, c.clave, c.valor);
-    SCOPED_TRACE(std::string(c.seccion) + "/" + c.clave + "=" + c.valor);
-    c.comprueba(LeeAjustes(al, *t.textos));
+    al.Escribe(c[0], c[1], c[2]);
+    EXPECT_EQ(vista(LeeAjustes(al, *t.textos)), c[3]) << c[0] << "/" << c[1] << "=" << c[2];
   }
 }
 

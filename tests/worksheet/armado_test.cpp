@@ -108,11 +108,19 @@ TEST(ArmarBloques, BlocksFollowWhereTheSolutionsGo) {
     EXPECT_TRUE(e.doc.Modificada);
     EXPECT_EQ(e.doc.ruta, "/tmp/kept.col");  // only new texts lose their file
   }
-  // Without any solution there is no heading either.
-  Entorno e(2);
-  e.Agrega("x&LF", "");
-  ArmarBloques(e.s, 0);
-  EXPECT_EQ(e.Campo(&Bloque::Problema), std::vector<int>{1});
+  for (int possol : {2, 3}) {  // without any solution there is no heading either
+    Entorno e(possol);
+    e.Agrega("x&LF", "");
+    ArmarBloques(e.s, 0);
+    EXPECT_EQ(e.Campo(&Bloque::Problema), std::vector<int>{1});
+  }
+  // A long solution too takes a block of its own.
+  for (auto [enu, sol, bloques] : {std::tuple{10, 512, 1u}, {10, 513, 2u}, {512, 512, 1u}, {2000, 0, 2u}}) {
+    Entorno e(1);
+    e.Agrega(std::string(enu, 'e'), std::string(sol, 's'));
+    ArmarBloques(e.s, 0);
+    EXPECT_EQ(e.doc.bloques.size(), bloques) << enu << "/" << sol;
+  }
 }
 
 TEST(ArmarBloques, LabelsTakePrefixSuffixFirstNumberAndColour) {
@@ -137,7 +145,9 @@ TEST(ArmarBloques, AThousandBlocksKeepTheLastThreeDigitsOfTheirMarks) {
     const std::string n = std::to_string((i + 1) % 1000);
     ASSERT_EQ(e.doc.bloques[i].Texto.substr(0, 9), "#MARK=" + std::string(3 - n.size(), '0') + n);
   }
-  // Every block is placed, the one whose mark reads 000 too.
+  // Every block is placed in block order, the one whose mark reads 000 too.
+  const std::vector<int> paginas = e.Campo(&Bloque::Pagina);
+  EXPECT_TRUE(std::is_sorted(paginas.begin(), paginas.end()) && paginas.front() == 1);
   EXPECT_EQ(e.doc.bloques.back().Pagina, e.doc.numPaginas);
 }
 
@@ -183,6 +193,10 @@ void CompruebaPaginas(Entorno& e, std::set<int> cortados = {}) {
   EXPECT_EQ(bl.front().Pagina, 1);
   EXPECT_EQ(bl.back().Pagina, e.doc.numPaginas);
   EXPECT_EQ(std::set<int>(e.doc.cortados.begin(), e.doc.cortados.end()), cortados);
+  if (e.doc.col.cab.POSSOL == 3) {  // the solutions start on a page of their own
+    auto sol = std::find_if(bl.begin(), bl.end(), [](const Bloque& b) { return b.Problema < 0; });
+    if (sol != bl.begin() && sol != bl.end()) EXPECT_GT(sol->Pagina, (sol - 1)->Pagina);
+  }
   for (int p = 1; p <= e.doc.numPaginas; ++p) {
     std::vector<const Bloque*> en;
     const Bloque* siguiente = nullptr;
@@ -284,6 +298,7 @@ TEST(Paginar, ProgressAndTheCurrentPageFollowTheHint) {
     ArmarBloques(e.s, pista);
     EXPECT_EQ(e.doc.paginaActual, paginaDe120) << pista;
   }
+  EXPECT_EQ(PaginaDeProblema(e.doc, INT32_MIN), 1);
   ArmarBloques(e.s, 9999);  // no such problem
   EXPECT_EQ(e.doc.paginaActual, 1);
   for (int actual : {e.doc.numPaginas + 1, 0}) EXPECT_EQ((e.doc.paginaActual = actual, PaginaDeProblema(e.doc, 0)), 1);
@@ -327,6 +342,11 @@ TEST(Barajar, SwapsRecipesNotTexts) {
   Aleatorio rnd = Aleatorio::Guionado({0.0, 0.9, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.7});
   Barajar(col, rnd);
   EXPECT_EQ(rnd.Siguiente(), 0.7) << "NPROB + 1 rounds of two draws";
+  Coleccion uno;
+  uno.problemas.resize(1);
+  Aleatorio dos = Aleatorio::Guionado({0.1, 0.2, 0.3, 0.4, 0.5});
+  Barajar(uno, dos);
+  EXPECT_EQ(dos.Siguiente(), 0.5);
   for (int i = 0; i < 3; ++i) {
     const Problema& p = col.problemas[static_cast<std::size_t>(i)];
     const int k = 3 - i;
@@ -360,6 +380,7 @@ TEST(CrearColeccion, MakesTheTextsInOrderOrShuffledAndLeavesNoFile) {
     }
     EXPECT_EQ(a, b);
     EXPECT_EQ(mismos == 30, ordena != 0);
+    EXPECT_EQ(e.doc.paginaActual, 1);
   }
   Entorno vacio;  // nothing without problems
   vacio.doc.ruta = "/tmp/kept.col";
@@ -387,6 +408,7 @@ TEST(Recrear, CommonOffsetsWrapOnceOneProblemOnRequestNothingWhileBusy) {
   for (const Problema& p : e.doc.col.problemas) s.push_back(p.Semilla), v.push_back(p.NumVariante);
   EXPECT_EQ(s, (std::vector<int>{223, 224, 225, 225, 675}));
   EXPECT_EQ(v, (std::vector<int>{4498, 4499, 4500, 4500, 8500}));
+  EXPECT_NE(e.doc.col.problemas[0].Enunciado, "x") << "the texts are made again";
   EXPECT_TRUE(e.doc.ruta.isEmpty());
 
   Problema& p = e.doc.col.problemas[0];

@@ -24,6 +24,7 @@ class PlataformaGrabadora : public PlataformaMuda {
  public:
   std::vector<std::string> avisos, criticos;
   std::vector<QString> titulos, recientes;
+  std::vector<bool> estados;
   bool exitoGuardarComo = false;
   const int* busy = nullptr;
   int busyEnGuardarComo = -1;  // AppBusy when Save As was offered
@@ -31,6 +32,7 @@ class PlataformaGrabadora : public PlataformaMuda {
   void Critico(const std::string& t) override { criticos.push_back(t); }
   void TituloVentana(const QString& t) override { titulos.push_back(t); }
   void Reciente(const QString& r) override { recientes.push_back(r); }
+  void EstadoDocumento(bool a) override { estados.push_back(a); }
   bool GuardarComo() override { return busyEnGuardarComo = *busy, exitoGuardarComo; }
 };
 
@@ -141,6 +143,10 @@ TEST(ColFile, WritesEveryItemByteForByteAndReadsItBack) {
   EXPECT_EQ(Lee(b.Ruta("two.col")), Lee(a.Ruta("SHEET.COL")));
   EXPECT_EQ(b.pl.titulos, std::vector<QString>{TituloApp() + "  -  SHEET.COL"});
   EXPECT_EQ(b.pl.recientes, std::vector<QString>{a.Ruta("SHEET.COL")});
+  EXPECT_EQ(b.pl.estados, std::vector<bool>{true});
+  b.doc.col.cab.ORDENA = 0;
+  b.doc.col.cab.PAGINI = 0;
+  EXPECT_NE(TextoColeccion(b.doc.col).find("#ORDENA(0#ORDENA)#PAGINI( 0#PAGINI)"), std::string::npos);
   EXPECT_EQ(b.doc.AppBusy, 0);
 }
 
@@ -311,9 +317,9 @@ TEST(ColFile, FailedSavesKeepTheOldFileAndSayWhy) {
     bool guardarComo;  // Save As is offered
   } casos[] = {
       {"#IMG('gone.gif'#IMG)", "t.col", "gone.gif\nThis picture of the worksheet was not found", false},
-      {"x", "dir.col", "The worksheet could not be saved:\n", false},  // a folder in the way
+      {"x", "dir.col", "\n\nError = 57\nDevice I/O error", false},  // a folder in the way
       {"x", root ? "/sys/t.col" : "ro/t.col",
-       "The worksheet could not be saved because the file or its folder is write-protected", true},
+       "write-protected:\n%\n\nPlease choose another name or another folder.", true},
   };
   for (const auto& c : casos)
     for (bool exito : {false, true}) {
@@ -332,7 +338,9 @@ TEST(ColFile, FailedSavesKeepTheOldFileAndSayWhy) {
       EXPECT_EQ(a.Guarda(ruta), c.guardarComo && exito);
       ::chmod(QFile::encodeName(a.Ruta("ro")).constData(), 0755);
       ASSERT_EQ(a.pl.criticos.size(), 1u);
-      EXPECT_EQ(a.pl.criticos[0].rfind(c.caja, 0), 0u) << a.pl.criticos[0];
+      std::string caja = c.caja;
+      if (caja.find('%') != std::string::npos) caja.replace(caja.find('%'), 1, ruta.toStdString());
+      EXPECT_NE(a.pl.criticos[0].find(caja), std::string::npos) << a.pl.criticos[0];
       EXPECT_EQ(a.pl.busyEnGuardarComo, c.guardarComo ? 0 : -1) << "Save As runs after the save let go";
       EXPECT_EQ(Lee(ruta), antes);
       EXPECT_FALSE(QFileInfo::exists(ruta + "x"));
@@ -381,6 +389,7 @@ TEST(ColFile, DamagedFilesEndInTheInvalidFileBoxAndKeepWhatTheReaderLeaves) {
     EXPECT_EQ(b.doc.col.cab.NPROB, static_cast<int32_t>(n));
     EXPECT_EQ(b.doc.bloques.size(), n ? 5u : 0u);  // no rebuild ran
     if (n == 3) EXPECT_EQ(b.doc.col.problemas[0].Solucion, "18 g");
+    if (n) EXPECT_TRUE(b.pl.titulos.empty());  // the window still shows the old worksheet
     EXPECT_EQ(b.doc.AppBusy, 0);
   }
 }
@@ -409,6 +418,13 @@ TEST(Carpetas, ScratchFolderIsPrivateSharedUnderALockAndLookupsFallBackToAnyCase
   EXPECT_FALSE(CreaCarpetaTemporal(propia));
   EXPECT_TRUE(UsoCarpetaTemporal(propia).Ruta().isEmpty());
   EXPECT_FALSE(QFileInfo::exists(tmp.path() + "/elsewhere"));
+  if (::geteuid() == 0) {  // another user's folder
+    QFile::remove(propia);
+    ASSERT_TRUE(QDir().mkdir(propia));
+    ASSERT_EQ(::chown(QFile::encodeName(propia).constData(), 65534, 65534), 0);
+    EXPECT_EQ(CarpetaTemporal(), propia + "-" + QString::number(::geteuid()));
+    EXPECT_FALSE(CreaCarpetaTemporal(propia));
+  }
   if (antes.isNull()) qunsetenv("TMPDIR"); else qputenv("TMPDIR", antes);
 
   const QString dir = tmp.path() + "/pics";
