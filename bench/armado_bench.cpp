@@ -3,12 +3,16 @@
 // that follows a change of one problem.
 #include <benchmark/benchmark.h>
 
+#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
+#include <QTemporaryDir>
 
 #include "problems/idioma.h"
 #include "typeset/canvas_qt.h"
 #include "typeset/motor.h"
 #include "worksheet/armado.h"
+#include "worksheet/colfile.h"
 
 namespace {
 
@@ -95,6 +99,39 @@ void BM_RecrearUnProblema500(benchmark::State& state) {
   state.counters["pages"] = e.doc.numPaginas;
 }
 BENCHMARK(BM_RecrearUnProblema500)->Unit(benchmark::kMillisecond);
+
+// Opening a worksheet whose picture directory holds n entries, of which the
+// texts name n / 10: the time should grow with n, not with its square.
+void BM_CargarConImagenes(benchmark::State& state) {
+  const int n = static_cast<int>(state.range(0));
+  QTemporaryDir dir;
+  Entorno e(20);
+  e.s.carpetas.programa = dir.path();
+  e.s.carpetas.temporal = dir.path() + "/scratch";
+  ss::CrearColeccion(e.s, 1);
+  for (int k = 0; k < n / 10; ++k)
+    e.doc.col.problemas[0].Solucion += " #IMG('p" + std::to_string(k * 10) + ".gif'#IMG)";
+  std::string texto = ss::TextoColeccion(e.doc.col);
+  const std::size_t d = texto.size() + 1;
+  std::string directorio;
+  std::size_t pos = d + 48 * static_cast<std::size_t>(n);
+  auto campo = [](std::string t, std::size_t ancho) { t.resize(ancho, ' '); return t; };
+  for (int k = 0; k < n; ++k, pos += 4)
+    directorio += campo("p" + std::to_string(k) + ".gif", 32) + campo(std::to_string(pos), 8) +
+                  campo("4", 8);
+  texto.replace(texto.find("00000000"), 8, campo(std::to_string(d), 8));
+  const QString ruta = dir.path() + "/many.col";
+  QFile f(ruta);
+  f.open(QIODevice::WriteOnly);
+  f.write(QByteArray::fromStdString(texto + directorio + std::string(4 * n, 'x')));
+  f.close();
+  for (auto _ : state) {
+    e.doc.ruta = ruta;
+    benchmark::DoNotOptimize(ss::CargarColeccion(e.s));
+  }
+  state.counters["pictures"] = static_cast<double>(QDir(e.s.carpetas.temporal).count() - 2);
+}
+BENCHMARK(BM_CargarConImagenes)->Arg(400)->Arg(4000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

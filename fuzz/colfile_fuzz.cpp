@@ -71,7 +71,7 @@ struct Entorno {
     const QStringList arriba = r.entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
                                            QDir::NoDotAndDotDot);
     for (const QString& e : arriba)
-      if (e != "in.col" && e != "out.col" && e != "out.colx" && e != "program" && e != "scratch") {
+      if (e != "in.col" && e != "out.col" && e != "program" && e != "scratch") {
         std::fprintf(stderr, "unexpected entry %s\n", qPrintable(e));
         std::abort();
       }
@@ -127,15 +127,18 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   if (doc.col.cab.NPROB != static_cast<int32_t>(doc.col.problemas.size())) std::abort();
   if (cargada) {
     doc.ruta = e.salida;
+    const int antes = pl.criticos;
     if (ss::GuardarColeccion(s)) {
       ss::Documento otro;
       PlataformaGrabadora pl2;
       ss::Sesion s2{otro, pl2, gen, *e.motor, *e.oculta, *e.textos,
                     ss::Carpetas{e.programa, e.temporal}};
       otro.ruta = e.salida;
-      // What this program wrote, it reads.
+      // What this program wrote, it reads, and reads as it was.
       if (!ss::CargarColeccion(s2)) std::abort();
-      if (otro.col.problemas.size() != doc.col.problemas.size()) std::abort();
+      if (ss::TextoColeccion(otro.col) != ss::TextoColeccion(doc.col)) std::abort();
+    } else if (pl.criticos == antes) {
+      std::abort();  // a failed save always says why
     }
   }
   e.Revisa();

@@ -22,6 +22,14 @@ std::optional<QString> Igual(const QStringList& nombres, const QString& buscado)
   return std::nullopt;
 }
 
+// A whole number of the store, held within [lo, hi] whatever was written there.
+int Acotado(const std::string& texto, int lo, int hi) {
+  const double v = Val(texto);
+  if (!(v >= lo)) return lo;  // NaN included
+  if (v >= hi) return hi;
+  return static_cast<int>(v);
+}
+
 int Signo(const QString& texto, int defecto) {
   const double v = Val(A1252(texto));
   return v > 0 ? 1 : v < 0 ? -1 : defecto;
@@ -45,7 +53,12 @@ std::optional<QString> AlmacenUsuario::Lee(const QString& seccion, const QString
   if (!grupo) return std::nullopt;
   s_->beginGroup(*grupo);
   std::optional<QString> valor;
-  if (const auto k = Igual(s_->childKeys(), clave)) valor = s_->value(*k).toString();
+  if (const auto k = Igual(s_->childKeys(), clave)) {
+    // An unquoted comma in a hand-edited file makes the value a list: it is
+    // read back as the text it was.
+    const QVariant v = s_->value(*k);
+    valor = v.typeId() == QMetaType::QStringList ? v.toStringList().join(u',') : v.toString();
+  }
   s_->endGroup();
   return valor;
 }
@@ -116,12 +129,12 @@ Ajustes LeeAjustes(const Almacen& al, TextosVentana& t) {
 
   a.ordena = al.Lee("Wizard", "Ordena", "S").compare(u"N", Qt::CaseInsensitive) != 0;
   if (const auto v = al.Lee("Wizard", "Solpos")) {
-    a.solpos = v->trimmed().isEmpty() ? 1 : static_cast<int>(Val(A1252(*v)));
+    a.solpos = v->trimmed().isEmpty() ? 1 : Acotado(A1252(*v), 0, 3);
   }
   a.propre = lee("Wizard", "Propre", "");
   a.prosuf = lee("Wizard", "Prosuf", ")");
-  a.pagpos = static_cast<int>(Val(lee("Wizard", "Pagpos", "11")));
-  a.procol = static_cast<int>(Val(lee("Wizard", "Procol", "16777215")));
+  a.pagpos = Acotado(lee("Wizard", "Pagpos", "11"), 0, 15);
+  a.procol = Acotado(lee("Wizard", "Procol", "16777215"), 0, 16777215);
   if (a.procol == 0) a.procol = 16777215;
   a.asignatura = lee("Wizard", "Asignatura", "");
   a.showini = al.Lee("Wizard", "Showini", "S").compare(u"N", Qt::CaseInsensitive) != 0;

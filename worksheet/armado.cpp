@@ -32,12 +32,22 @@ long long Piso(long long a, long long b) {
   return q;
 }
 
-// A page's text with the page number's free line. The line feed that ends
-// the text only starts an empty line, which draws nothing: it is left out so
-// that it takes no room at the foot of the page.
+// A page's text as it is drawn, with the page number's free line. The line
+// feed that ends the text only starts an empty line, which draws nothing: it
+// is left out so that it takes no room at the foot of the page.
 std::string ConLineaDelNumero(std::string texto, int posNumPag) {
   texto = TextoConHuecoDeNumero(texto, posNumPag);
   if (texto.ends_with("&LF")) texto.resize(texto.size() - 3);
+  return texto;
+}
+
+// A trial page's text keeps one line free for the page number: at its end
+// when the number's code has the foot bit, otherwise at its start when there
+// is any code at all. The free line goes by the code alone, even when its
+// low bits place no number.
+std::string ConLineaLibre(std::string texto, int posNumPag) {
+  if ((posNumPag & 8) != 0) return texto + " &LF";
+  if (posNumPag != 0) return " &LF" + texto;
   return texto;
 }
 
@@ -58,23 +68,21 @@ void SinFichero(Sesion& s) {
 // Finds the pages of a run of blocks on the hidden page.
 //
 // A trial lays the title block and the next blocks (49 at first) on the
-// hidden page; the typesetter's last mark tells how many of them fitted. What
-// fits of a trial fits on the page as drawn, whose lines are the same up to
-// the end of its last block; only the page number's free line at the foot
-// comes behind that. With the number at the foot the page found is therefore
-// laid out again as it will be drawn, and gives up its last block while that
-// line does not fit.
+// hidden page; the typesetter's last mark tells how many of them fitted.
+// What fits of a trial fits on the page as drawn, whose lines are the same
+// up to the end of its last block.
 class Paginador {
  public:
   explicit Paginador(Sesion& s)
       : s_(s),
         cabecera_(CabeceraTexto(s.doc.col.cab)),
         palabraPag_(s.textos.GetL_win("Pag")),
-        posNum_(s.doc.col.cab.POSNUMPAG),
-        alPie_((posNum_ & 7) != 0 && (posNum_ & 8) != 0) {}
+        posNum_(s.doc.col.cab.POSNUMPAG) {}
 
   // Places the blocks desde..hasta (0-based, inclusive) on pages from `p`
-  // on, each page holding as many whole blocks as fit. Returns the highest
+  // on, each page holding as many whole blocks as fit. A block that does not
+  // fit even at the top of a page gets that page to itself, is cut at its
+  // foot, and is listed in the document's cut blocks. Returns the highest
   // page given, or p - 1 when none was.
   int Fase(int desde, int hasta, int p) {
     std::vector<Bloque>& bloques = s_.doc.bloques;
@@ -95,7 +103,7 @@ class Paginador {
         const int fin = std::min(hasta, cursor + ancho - 1);
         for (int b = cursor; b <= fin && static_cast<int>(ventana.size()) < kMaxVentana; ++b)
           if (bloque(b).Pagina == 0) ventana.push_back(b);
-        resultado = Prueba(ventana, ventana.size(), false);
+        resultado = Prueba(ventana);
         if (resultado > 0 && fin < hasta && static_cast<int>(ventana.size()) < kMaxVentana) {
           ancho += kVentana;
           continue;
@@ -114,14 +122,14 @@ class Paginador {
       std::size_t caben = ventana.size();
       if (resultado < 0) {
         const int v = std::min(-resultado, static_cast<int>(ventana.size()));
-        // The block at the top of the page is taller than a page: every
-        // further page would begin with it again. It and those behind it
-        // stay without a page.
-        if (v <= 1) break;
-        caben = static_cast<std::size_t>(v - 1);
+        if (v <= 1) {
+          // Taller than a page: it stands alone and the page cuts it.
+          caben = 1;
+          s_.doc.cortados.push_back(ventana[0] + 1);
+        } else {
+          caben = static_cast<std::size_t>(v - 1);
+        }
       }
-      if (alPie_)
-        while (caben > 1 && Prueba(ventana, caben, true) < 0) --caben;
 
       for (std::size_t k = 0; k < caben; ++k) bloque(ventana[k]).Pagina = p;
       ultima = p;
@@ -136,17 +144,15 @@ class Paginador {
   }
 
  private:
-  // Lays the title block and the first `n` blocks of `ventana` on the hidden
-  // page: as drawn (`comoSeDibuja`), or as a trial, with the number's free
-  // line only when it stands at the head. The marks are numbered by
-  // their place in the window (1, 2, ...), which keeps every mark distinct
-  // whatever its block's number; a mark is not drawn, so the layout is that
-  // of the page. Returns the typesetter's last mark: positive when all
-  // fitted, minus the place of the block that did not, 0 when no mark was
-  // reached.
-  int Prueba(const std::vector<int>& ventana, std::size_t n, bool comoSeDibuja) {
+  // Lays the title block and the blocks of `ventana` on the hidden page with
+  // the number's free line. The marks are numbered by their place in the
+  // window (1, 2, ...), which keeps every mark distinct whatever its block's
+  // number; a mark is not drawn, so the layout is that of the page. Returns
+  // the typesetter's last mark: positive when all fitted, minus the place of
+  // the block that did not, 0 when no mark was reached.
+  int Prueba(const std::vector<int>& ventana) {
     std::string texto = cabecera_;
-    for (std::size_t k = 0; k < n; ++k) {
+    for (std::size_t k = 0; k < ventana.size(); ++k) {
       const std::string& t = s_.doc.bloques[static_cast<std::size_t>(ventana[k])].Texto;
       if (t.size() >= kLargoMarca && t.starts_with("#MARK=")) {
         texto += Marca(static_cast<long long>(k) + 1);
@@ -155,13 +161,8 @@ class Paginador {
         texto += t;
       }
     }
-    if (comoSeDibuja) {
-      texto = ConLineaDelNumero(std::move(texto), posNum_);
-    } else if (!alPie_) {
-      texto = TextoConHuecoDeNumero(texto, posNum_);
-    }
     s_.plataforma.DejaCorrer();
-    s_.motor.ComponerTexto(texto, 12, s_.paginaOculta);
+    s_.motor.ComponerTexto(ConLineaLibre(std::move(texto), posNum_), 12, s_.paginaOculta);
     return s_.motor.UltimaMarca;
   }
 
@@ -169,7 +170,6 @@ class Paginador {
   std::string cabecera_;
   std::string palabraPag_;
   int posNum_;
-  bool alPie_;
 };
 
 }  // namespace
@@ -271,9 +271,10 @@ void ArmarBloques(Sesion& s, int pista) {
   s.doc.marcas.clear();
   std::vector<std::string> soluciones;
   long long numero = static_cast<long long>(cab.PROINI) - 1;
-  auto nuevoBloque = [&](std::string texto, int32_t problema) {
+  std::vector<int32_t> deQuien;  // the problem of each gathered solution
+  auto nuevoBloque = [&](std::string texto, int32_t problema, int32_t origen) {
     if (bloques.size() >= static_cast<std::size_t>(kMaxBloques)) return;
-    bloques.push_back(Bloque{std::move(texto), 0, problema});
+    bloques.push_back(Bloque{std::move(texto), 0, problema, origen});
   };
 
   for (std::size_t i = 0; i < col.problemas.size(); ++i) {
@@ -288,15 +289,17 @@ void ArmarBloques(Sesion& s, int pista) {
     if (possol == 1) {
       const std::string tras = "&+I" + respuesta + "&-I:& " + p.Solucion + "&LF";
       if (p.Enunciado.size() < kLargoJunto && p.Solucion.size() < kLargoJunto) {
-        nuevoBloque(enunciado + tras, indice);
+        nuevoBloque(enunciado + tras, indice, indice);
       } else {
-        nuevoBloque(enunciado + "&LF", indice);
-        nuevoBloque(Marca(c + 1) + tras, -indice);
+        nuevoBloque(enunciado + "&LF", indice, indice);
+        nuevoBloque(Marca(c + 1) + tras, -indice, indice);
       }
     } else {
-      nuevoBloque(enunciado + "&LF", indice);
-      if ((possol == 2 || possol == 3) && !p.Solucion.empty())
+      nuevoBloque(enunciado + "&LF", indice, indice);
+      if ((possol == 2 || possol == 3) && !p.Solucion.empty()) {
         soluciones.push_back(" &+B" + etiqueta + "&-B& " + p.Solucion);
+        deQuien.push_back(indice);
+      }
     }
     s.plataforma.DejaCorrer();
   }
@@ -305,7 +308,7 @@ void ArmarBloques(Sesion& s, int pista) {
     soluciones.front().insert(0, "&+B" + s.textos.GetL_win("Answers") + ":&-B&LF");
     for (std::size_t k = 0; k < soluciones.size(); ++k) {
       const long long c = static_cast<long long>(bloques.size()) + 1;
-      nuevoBloque(Marca(c) + soluciones[k], -static_cast<int32_t>(k + 1));
+      nuevoBloque(Marca(c) + soluciones[k], -static_cast<int32_t>(k + 1), deQuien[k]);
     }
   }
 
@@ -331,6 +334,7 @@ void Paginar(Sesion& s, int pista) {
   TrabajoOcupado ocupado(s);
   std::vector<Bloque>& bloques = s.doc.bloques;
   for (Bloque& b : bloques) b.Pagina = 0;
+  s.doc.cortados.clear();
   const int total = static_cast<int>(bloques.size());
 
   // With the solutions on pages of their own, the statements are placed first.
@@ -365,6 +369,16 @@ int PaginaDeProblema(const Documento& doc, int pista) {
   }
   if (doc.paginaActual >= 1 && doc.paginaActual <= doc.numPaginas) return doc.paginaActual;
   return 1;
+}
+
+std::string AvisoCorte(const Documento& doc, int bloque) {
+  if (bloque < 1 || bloque > static_cast<int>(doc.bloques.size())) return {};
+  const Bloque& b = doc.bloques[static_cast<std::size_t>(bloque - 1)];
+  const long long numero = static_cast<long long>(doc.col.cab.PROINI) + b.Origen - 1;
+  const std::string que = (b.Problema < 0 ? "The answer to problem " : "Problem ") +
+                          std::to_string(numero);
+  return que + " is taller than a page: it has page " + std::to_string(b.Pagina) +
+         " to itself and is cut off at the foot of that page.";
 }
 
 std::string TextoPagina(const Documento& doc, int pagina) {

@@ -31,8 +31,14 @@ void ArmarBloques(Sesion& s, int pista);
 // The title block that heads every page.
 std::string CabeceraTexto(const ColeccionCab& cab);
 
-// Gives every block its page, trying at most 49 blocks a page on the hidden page.
+// Gives every block its page, trying at most 49 blocks a page on the hidden
+// page. A block taller than a page gets a page to itself, is cut at its foot,
+// and its number goes into doc.cortados; the blocks behind it go on.
 void Paginar(Sesion& s, int pista);
+
+// What the user is told about a cut block (`bloque` from doc.cortados),
+// naming the problem as its label numbers it; empty for no such block.
+std::string AvisoCorte(const Documento& doc, int bloque);
 
 // The page to show for a problem hint.
 int PaginaDeProblema(const Documento& doc, int pista);

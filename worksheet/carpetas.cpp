@@ -4,6 +4,10 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/types.h>
 #include <unistd.h>
@@ -62,6 +66,42 @@ bool CreaCarpetaTemporal(const QString& carpeta) {
   // The mask of the process may have taken bits away; never added any.
   ::chmod(ruta.constData(), 0700);
   return MiraCarpeta(carpeta) == Entrada::Propia;
+}
+
+namespace {
+constexpr char kCerrojo[] = "sheetsmith.lock";
+}
+
+UsoCarpetaTemporal::UsoCarpetaTemporal(const QString& carpeta) {
+  if (!CreaCarpetaTemporal(carpeta)) return;
+  const QByteArray cerrojo = QFile::encodeName(carpeta + QLatin1Char('/') + QLatin1String(kCerrojo));
+  fd_ = ::open(cerrojo.constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600);
+  if (fd_ < 0) return;
+  // Waits while a leaving user is clearing the folder.
+  while (::flock(fd_, LOCK_SH) != 0) {
+    if (errno != EINTR) {
+      ::close(fd_);
+      fd_ = -1;
+      return;
+    }
+  }
+  carpeta_ = carpeta;
+}
+
+UsoCarpetaTemporal::~UsoCarpetaTemporal() {
+  if (fd_ < 0) return;
+  // The lock is had alone only when no other process holds it.
+  if (::flock(fd_, LOCK_EX | LOCK_NB) == 0) {
+    const QStringList nombres = QDir(carpeta_).entryList(
+        QDir::Files | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    for (const QString& n : nombres) {
+      if (n == QLatin1String(kCerrojo)) continue;  // a newcomer may be waiting on it
+      const QByteArray ruta = QFile::encodeName(carpeta_ + QLatin1Char('/') + n);
+      struct stat st {};
+      if (::lstat(ruta.constData(), &st) == 0 && S_ISREG(st.st_mode)) ::unlink(ruta.constData());
+    }
+  }
+  ::close(fd_);
 }
 
 QString BuscaEnCarpeta(const QString& carpeta, const QString& nombre) {

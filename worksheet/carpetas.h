@@ -22,6 +22,26 @@ QString CarpetaTemporal();
 // Creates the scratch folder (mode 0700) if it is missing; false on failure.
 bool CreaCarpetaTemporal(const QString& carpeta);
 
+// This process's use of the scratch folder: the folder is made (private) when
+// one is constructed, and a shared lock on the folder's lock file marks the
+// process as a user of it while the object lives. The last user to leave
+// deletes the plain files in the folder; subfolders stay. Every program that
+// unpacks worksheets holds one for its whole run and gives Ruta() to its
+// Carpetas. Ruta() is empty when the folder could not be made.
+class UsoCarpetaTemporal {
+ public:
+  explicit UsoCarpetaTemporal(const QString& carpeta = CarpetaTemporal());
+  ~UsoCarpetaTemporal();
+  UsoCarpetaTemporal(const UsoCarpetaTemporal&) = delete;
+  UsoCarpetaTemporal& operator=(const UsoCarpetaTemporal&) = delete;
+
+  const QString& Ruta() const { return carpeta_; }
+
+ private:
+  QString carpeta_;
+  int fd_ = -1;
+};
+
 // `nombre` in `carpeta`: the exact name first, else one that differs only in
 // case; empty when there is none.
 QString BuscaEnCarpeta(const QString& carpeta, const QString& nombre);

@@ -13,7 +13,7 @@ std::string ComandoProblema(const Problema& p) {
 }
 
 ArbolItem& Arbol::Agrega(ArbolItem fila) {
-  if (Count() < kMaxFilasArbol) filas.push_back(std::move(fila));
+  filas.push_back(std::move(fila));
   return filas.back();
 }
 

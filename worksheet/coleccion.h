@@ -16,7 +16,6 @@ namespace ss {
 class Aleatorio;
 
 inline constexpr int kMaxProblemas = 500;
-inline constexpr int kMaxFilasArbol = 390;
 inline constexpr int kMaxBloques = 1024;
 inline constexpr int kMaxMarcas = 500;
 inline constexpr int16_t kVerdadero = -1;  // a stored flag's true
@@ -80,7 +79,7 @@ struct ArbolItem {
 struct Arbol {
   std::vector<ArbolItem> filas = std::vector<ArbolItem>(1);
   int Count() const { return static_cast<int>(filas.size()) - 1; }
-  ArbolItem& Agrega(ArbolItem fila);  // appends a row (up to 390) and returns it
+  ArbolItem& Agrega(ArbolItem fila);  // appends a row and returns it
 };
 
 // One unit of page text, derived from the problems and never stored.
@@ -88,6 +87,7 @@ struct Bloque {
   std::string Texto;   // begins with its mark
   int32_t Pagina = 0;  // from 1; 0 not placed yet
   int32_t Problema = 0;  // > 0 statement of that problem; < 0 a solution block
+  int32_t Origen = 0;    // the problem (from 1) whose text the block holds
 };
 
 // One selectable strip of the page on screen.
@@ -112,6 +112,7 @@ struct Documento {
   QString ruta;              // the file, empty for a worksheet that has none
   int paginaActual = 1;
   int numPaginas = 0;
+  std::vector<int> cortados;  // blocks (from 1) taller than a page, each cut on a page of its own
   bool Modificada = false;   // differs from its file
   int AppBusy = 0;           // jobs running that let events through; > 0 means busy
 };

@@ -1,15 +1,20 @@
 #include "worksheet/colfile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 
 #include <cerrno>
 #include <cmath>
 #include <cstdint>
+#include <functional>
 #include <optional>
+#include <unordered_set>
 #include <system_error>
 
 #include <fcntl.h>
+#include <stdlib.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -120,52 +125,36 @@ bool EscribeTodo(int fd, std::string_view datos) {
   return true;
 }
 
-// The new file is written whole under the path with "x" added and then renamed
-// over the path: the old file stays untouched until the new one is complete.
-std::optional<FalloGuardado> EscribeColeccion(const QString& ruta, std::string_view texto,
-                                              std::string_view directorio,
-                                              std::string_view datos) {
-  if (ruta.isEmpty()) return FalloDeErrno(ENOENT);
-  const QByteArray destino = QFile::encodeName(ruta);
-  const QByteArray temporal = QFile::encodeName(ruta + QStringLiteral("x"));
-
-  // A write-protected worksheet is not replaced behind its owner's back.
-  struct stat st {};
-  if (::stat(destino.constData(), &st) == 0 && !S_ISDIR(st.st_mode) &&
-      ::access(destino.constData(), W_OK) != 0 && (errno == EACCES || errno == EROFS))
-    return FalloDeErrno(errno);
-
-  const int fd = ::open(temporal.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW,
-                        0666);
-  if (fd < 0) return FalloDeErrno(errno);
-  auto abandona = [&](int e) {
-    ::close(fd);
-    ::unlink(temporal.constData());
-    return FalloDeErrno(e);
-  };
-  if (!EscribeTodo(fd, texto) || !EscribeTodo(fd, directorio) || !EscribeTodo(fd, datos))
-    return abandona(errno);
-  if (::fsync(fd) != 0 && errno != EINVAL) return abandona(errno);
-  if (::close(fd) != 0) {
-    const int e = errno;
-    ::unlink(temporal.constData());
-    return FalloDeErrno(e);
+// Where a save really writes: a symbolic link is saved through to the file
+// it points to (followed to the end of a chain, even when that file does not
+// exist yet), so the link stays a link.
+QString DestinoReal(const QString& ruta) {
+  QString destino = ruta;
+  for (int vuelta = 0; vuelta < 40; ++vuelta) {
+    const QFileInfo info(destino);
+    if (!info.isSymLink()) return destino;
+    const QString siguiente = info.symLinkTarget();
+    if (siguiente.isEmpty()) return destino;
+    destino = siguiente;
   }
-  if (::rename(temporal.constData(), destino.constData()) != 0) {
-    const int e = errno;
-    ::unlink(temporal.constData());
-    return FalloDeErrno(e);
-  }
-  return std::nullopt;
+  return destino;
 }
 
-std::optional<std::string> LeeFichero(const QString& ruta) {
-  if (!QFileInfo(ruta).isFile()) return std::nullopt;  // no folders, no pipes
+// The whole-file read, refused past `limite` bytes before anything is read.
+enum class Leido { Bien, NoSePuede, Grande };
+
+Leido LeeFichero(const QString& ruta, std::string& bytes, qint64 limite) {
+  const QFileInfo info(ruta);
+  if (!info.isFile()) return Leido::NoSePuede;  // no folders, no pipes
+  if (info.size() > limite) return Leido::Grande;
   QFile f(ruta);
-  if (!f.open(QIODevice::ReadOnly)) return std::nullopt;
-  const QByteArray bytes = f.readAll();
-  if (f.error() != QFileDevice::NoError) return std::nullopt;
-  return std::string(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+  if (!f.open(QIODevice::ReadOnly)) return Leido::NoSePuede;
+  // The file may have grown since it was measured: never more than the limit.
+  const QByteArray leido = f.read(limite + 1);
+  if (f.error() != QFileDevice::NoError) return Leido::NoSePuede;
+  if (leido.size() > limite) return Leido::Grande;
+  bytes.assign(leido.constData(), static_cast<std::size_t>(leido.size()));
+  return Leido::Bien;
 }
 
 // ---- reading -------------------------------------------------------------
@@ -193,6 +182,112 @@ int16_t Cifras(std::string_view t) {
   return static_cast<int16_t>(v);
 }
 
+// What a missing closing tag does: the field is emptied, or the file is
+// invalid, with the path kept or not.
+enum class SiFalta { Vacia, Invalido, InvalidoConRuta };
+
+struct CampoCab {
+  const char* cierre;
+  std::size_t abre;  // the length of the opening tag
+  SiFalta siFalta;
+  void (*pon)(ColeccionCab&, std::string_view);
+};
+
+// The header, tag by tag, in the order they are written.
+constexpr CampoCab kCampos[] = {
+    {"#PRETIT)", 8, SiFalta::Vacia, [](ColeccionCab& c, std::string_view v) { c.PRETIT = v; }},
+    {"#TITULO)", 8, SiFalta::Invalido, [](ColeccionCab& c, std::string_view v) { c.TITULO = v; }},
+    {"#POSTI1)", 8, SiFalta::Vacia, [](ColeccionCab& c, std::string_view v) { c.POSTI1 = v; }},
+    {"#POSTI2)", 8, SiFalta::Vacia, [](ColeccionCab& c, std::string_view v) { c.POSTI2 = v; }},
+    {"#POSNUMPAG)", 11, SiFalta::Invalido,
+     [](ColeccionCab& c, std::string_view v) { c.POSNUMPAG = Entero(Val(v)); }},
+    {"#COLRESPRO)", 11, SiFalta::InvalidoConRuta,
+     [](ColeccionCab& c, std::string_view v) { c.COLRESPRO = Entero(Val(v)); }},
+    {"#ORDENA)", 8, SiFalta::Invalido,
+     [](ColeccionCab& c, std::string_view v) { c.ORDENA = Val(v) == 1 ? kVerdadero : int16_t{0}; }},
+    {"#PAGINI)", 8, SiFalta::Invalido,
+     [](ColeccionCab& c, std::string_view v) { c.PAGINI = Entero(Val(v)); }},
+    {"#POSSOL)", 8, SiFalta::Invalido,
+     [](ColeccionCab& c, std::string_view v) { c.POSSOL = Entero(Val(v)); }},
+    {"#PROPRE)", 8, SiFalta::Invalido, [](ColeccionCab& c, std::string_view v) { c.PROPRE = v; }},
+    {"#PROSUF)", 8, SiFalta::Invalido, [](ColeccionCab& c, std::string_view v) { c.PROSUF = v; }},
+    {"#PROINI)", 8, SiFalta::Invalido,
+     [](ColeccionCab& c, std::string_view v) { c.PROINI = Entero(Val(v)); }},
+};
+
+// The picture part of a file as the header's "#BINDIR(" finds it.
+struct Adjuntos {
+  std::string_view directorio;  // entries of 48 bytes
+  std::string_view datos;       // the pictures' bytes, one behind the other
+  bool hay = false;
+  std::string binDir;           // the directory's place as the header gives it
+};
+
+enum class Lectura { Bien, Invalido, InvalidoConRuta };
+
+// Reads the text of a file into `col`, field by field: what was read before
+// a fault stays, as the loader's rules want it. `adj` views into `fichero`.
+Lectura LeeColeccion(std::string_view fichero, Coleccion& col, Adjuntos& adj) {
+  // A header must close.
+  const std::size_t finCab = fichero.find("#CABECERA)");
+  if (finCab == std::string_view::npos) return Lectura::Invalido;
+
+  // The picture directory, if the first "#BINDIR(" names one inside the file.
+  const int64_t largo = static_cast<int64_t>(fichero.size());
+  if (const std::size_t b = fichero.find("#BINDIR("); b != std::string_view::npos) {
+    adj.binDir = std::string(Mid(fichero, b + 9, kCampoNumero));
+    if (const auto d = Posicion(Val(adj.binDir), 1, largo)) {
+      const std::string_view primera = Mid(fichero, static_cast<std::size_t>(*d) + 32, kCampoNumero);
+      if (const auto f = Posicion(Val(primera), *d + 1, largo + 1)) {
+        adj.directorio = fichero.substr(static_cast<std::size_t>(*d - 1),
+                                        static_cast<std::size_t>(*f - *d));
+        adj.datos = Tras(fichero, static_cast<std::size_t>(*f - 1));
+        adj.hay = true;
+      }
+    }
+  }
+
+  std::string_view cab = Tras(fichero.substr(0, finCab), 10);
+  std::string_view resto = fichero.substr(finCab + 10);
+  ColeccionCab& c = col.cab;
+  const auto tabla = Corta(cab, "#PROPARAM)", 10);
+  if (!tabla) return Lectura::Invalido;
+  for (const CampoCab& k : kCampos) {
+    if (const auto v = Corta(cab, k.cierre, k.abre))
+      k.pon(c, *v);
+    else if (k.siFalta == SiFalta::Vacia)
+      k.pon(c, {});
+    else
+      return k.siFalta == SiFalta::InvalidoConRuta ? Lectura::InvalidoConRuta : Lectura::Invalido;
+  }
+  if (const auto v = Corta(cab, "#BINDIR)", 8)) adj.binDir = std::string(Trim(*v));
+
+  // The problem table; a worksheet without problems is no worksheet.
+  col.problemas = LeerProparam(*tabla);
+  c.NPROB = static_cast<int32_t>(col.problemas.size());
+  if (c.NPROB == 0) return Lectura::Invalido;
+
+  // Statement and solution of each problem, block by block.
+  for (std::size_t i = 0; i < col.problemas.size(); ++i) {
+    const std::string cierre = "#PRO" + ZeroPadCut(1000 + static_cast<long long>(i) + 1, 3) + ")";
+    const std::size_t p = resto.find(cierre);
+    if (p == std::string_view::npos) return Lectura::InvalidoConRuta;
+    const std::string_view bloque = Tras(resto.substr(0, p), 8);
+    resto = resto.substr(p + cierre.size());
+    std::string_view sol;
+    if (const std::size_t q = bloque.find("#SOL("); q != std::string_view::npos) {
+      sol = bloque.substr(q + 5);
+      sol = sol.substr(0, sol.size() >= 5 ? sol.size() - 5 : 0);
+    }
+    const std::size_t largoEnu = bloque.size() >= sol.size() + 15 ? bloque.size() - sol.size() - 15 : 0;
+    Problema& pr = col.problemas[i];
+    pr.Enunciado = std::string(Tras(bloque.substr(0, largoEnu), 5));
+    pr.Solucion = std::string(sol);
+  }
+  if (!adj.hay || Val(adj.binDir) == 0) adj = Adjuntos{};
+  return Lectura::Bien;
+}
+
 // A picture name from a file may only name a plain file of the scratch folder.
 bool NombreSeguro(std::string_view nombre) {
   if (nombre.empty() || nombre.front() == '.') return false;
@@ -203,35 +298,116 @@ bool NombreSeguro(std::string_view nombre) {
   return true;
 }
 
-// Writes a picture under a new name in the scratch folder; never follows a
-// link and never replaces what is there.
+// Writes a picture into the scratch folder, replacing a plain file of that
+// name; never follows a link.
 void EscribeImagen(const QString& carpeta, const QString& nombre, std::string_view bytes) {
   const QByteArray ruta = QFile::encodeName(carpeta + QLatin1Char('/') + nombre);
+  ::unlink(ruta.constData());  // a folder of that name stays, and the open below fails
   const int fd = ::open(ruta.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
   if (fd < 0) return;
   const bool ok = EscribeTodo(fd, bytes);
   if (::close(fd) != 0 || !ok) ::unlink(ruta.constData());
 }
 
-void DesempaquetaImagenes(const Sesion& s, std::string_view directorio, std::string_view datos) {
+QSet<QString> NombresPlegados(const QString& carpeta) {
+  QSet<QString> nombres;
+  if (carpeta.isEmpty()) return nombres;
+  const QStringList lista = QDir(carpeta).entryList(
+      QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+  for (const QString& n : lista) nombres.insert(n.toCaseFolded());
+  return nombres;
+}
+
+// Unpacks the pictures the worksheet's texts name, each name once. One of the
+// program's own folder is left to that folder; one in the scratch folder
+// (whatever the case of its name) is replaced by the file's copy, so a
+// picture left over from another worksheet never shows in this one.
+void DesempaquetaImagenes(const Sesion& s, const Adjuntos& adj, const Coleccion& col) {
+  QSet<QString> faltan;
+  for (const std::string& n : ImagenesDelTexto(TextoColeccion(col)))
+    faltan.insert(RutaDeTexto(n).toCaseFolded());
+  if (faltan.isEmpty()) return;
+  const QSet<QString> propias = NombresPlegados(s.carpetas.Img());
+  QStringList enTemporal;
+  bool carpetaLista = false;
+
+  std::string_view directorio = adj.directorio;
+  std::string_view datos = adj.datos;
   const std::size_t n = directorio.size() / kEntradaImagen;
-  for (std::size_t k = 0; k < n; ++k) {
+  for (std::size_t k = 0; k < n && !faltan.isEmpty(); ++k) {
     const std::string_view entrada = directorio.substr(0, kEntradaImagen);
     const std::string_view nombre = Trim(entrada.substr(0, kNombreImagen));
     const double v = Val(Mid(entrada, 41, kCampoNumero));
     std::size_t tam = 0;
     if (v > 0) tam = v >= static_cast<double>(datos.size()) ? datos.size()
                                                             : static_cast<std::size_t>(v);
-    if (NombreSeguro(nombre)) {
-      const QString q = RutaDeTexto(nombre);
-      if (BuscaEnCarpeta(s.carpetas.Img(), q).isEmpty() &&
-          BuscaEnCarpeta(s.carpetas.temporal, q).isEmpty() &&
-          CreaCarpetaTemporal(s.carpetas.temporal))
-        EscribeImagen(s.carpetas.temporal, q, datos.substr(0, tam));
+    const QString q = RutaDeTexto(nombre);
+    const QString plegado = q.toCaseFolded();
+    if (NombreSeguro(nombre) && faltan.remove(plegado) && !propias.contains(plegado)) {
+      if (!carpetaLista) {
+        if (!CreaCarpetaTemporal(s.carpetas.temporal)) return;
+        enTemporal = QDir(s.carpetas.temporal).entryList(QDir::Files | QDir::Hidden | QDir::System |
+                                                         QDir::NoDotAndDotDot);
+        carpetaLista = true;
+      }
+      for (const QString& viejo : enTemporal)
+        if (viejo != q && viejo.toCaseFolded() == plegado)
+          ::unlink(QFile::encodeName(s.carpetas.temporal + QLatin1Char('/') + viejo).constData());
+      EscribeImagen(s.carpetas.temporal, q, datos.substr(0, tam));
     }
     directorio.remove_prefix(kEntradaImagen);
     datos.remove_prefix(tam);
   }
+}
+
+// The file is written whole under the target with "x" added, read back, and
+// only then renamed over the target: the old file stays untouched until a
+// new one that reads back as the worksheet is complete. The new file takes
+// the old one's permissions.
+std::optional<FalloGuardado> EscribeColeccion(const QString& ruta, std::string_view texto,
+                                              std::string_view directorio, std::string_view datos,
+                                              const std::function<bool(const QString&)>& releer,
+                                              bool& noRelee) {
+  noRelee = false;
+  if (ruta.isEmpty()) return FalloDeErrno(ENOENT);
+  const QString real = DestinoReal(ruta);
+  const QByteArray destino = QFile::encodeName(real);
+  const QByteArray temporal = QFile::encodeName(real + QStringLiteral("x"));
+
+  // A write-protected worksheet is not replaced behind its owner's back.
+  struct stat st {};
+  const bool existe = ::stat(destino.constData(), &st) == 0 && !S_ISDIR(st.st_mode);
+  if (existe && ::access(destino.constData(), W_OK) != 0 && (errno == EACCES || errno == EROFS))
+    return FalloDeErrno(errno);
+
+  const int fd = ::open(temporal.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW,
+                        0666);
+  if (fd < 0) return FalloDeErrno(errno);
+  auto abandona = [&](int e) {
+    ::close(fd);
+    ::unlink(temporal.constData());
+    return FalloDeErrno(e);
+  };
+  if (existe && ::fchmod(fd, st.st_mode & 07777) != 0) return abandona(errno);
+  if (!EscribeTodo(fd, texto) || !EscribeTodo(fd, directorio) || !EscribeTodo(fd, datos))
+    return abandona(errno);
+  if (::fsync(fd) != 0 && errno != EINVAL) return abandona(errno);
+  if (::close(fd) != 0) {
+    const int e = errno;
+    ::unlink(temporal.constData());
+    return FalloDeErrno(e);
+  }
+  if (!releer(QFile::decodeName(temporal))) {
+    ::unlink(temporal.constData());
+    noRelee = true;
+    return FalloGuardado{};
+  }
+  if (::rename(temporal.constData(), destino.constData()) != 0) {
+    const int e = errno;
+    ::unlink(temporal.constData());
+    return FalloDeErrno(e);
+  }
+  return std::nullopt;
 }
 
 }  // namespace
@@ -290,30 +466,6 @@ std::string TextoColeccion(const Coleccion& col) {
   return t;
 }
 
-std::vector<std::string> ImagenesDelTexto(std::string_view texto) {
-  // Found in the upper-cased copy, cut from the text itself at the same place.
-  const std::string alto = UCase(texto);
-  std::vector<std::string> nombres;
-  std::size_t desde = 99;  // the search starts at the hundredth character
-  while (desde < alto.size()) {
-    const std::size_t hit = alto.find("#IMG(", desde);
-    if (hit == std::string::npos) break;
-    const std::size_t cierre = alto.find("#IMG)", hit + 6);
-    if (cierre == std::string::npos) break;
-    const std::string_view arg = texto.substr(hit + 5, cierre - (hit + 5));
-    const std::size_t q1 = arg.find('\'');
-    const std::size_t q2 = q1 == std::string_view::npos ? q1 : arg.find('\'', q1 + 1);
-    if (q2 != std::string_view::npos && q2 > q1 + 1) {
-      std::string nombre(arg.substr(q1 + 1, q2 - q1 - 1));
-      bool visto = false;
-      for (const std::string& n : nombres) visto = visto || n == nombre;
-      if (!visto) nombres.push_back(std::move(nombre));
-    }
-    desde = hit + 10;
-  }
-  return nombres;
-}
-
 std::vector<Problema> LeerProparam(std::string_view tabla) {
   const std::size_t filas = tabla.size() / kFila;
   if (filas == 0 || filas * kFila != tabla.size() || filas > static_cast<std::size_t>(kMaxProblemas))
@@ -337,12 +489,79 @@ std::vector<Problema> LeerProparam(std::string_view tabla) {
   return lista;
 }
 
+std::vector<std::string> ImagenesDelTexto(std::string_view texto) {
+  // Found in the upper-cased copy, cut from the text itself at the same place.
+  const std::string alto = UCase(texto);
+  std::vector<std::string> nombres;
+  std::unordered_set<std::string> vistos;
+  std::size_t desde = 99;  // the search starts at the hundredth character
+  while (desde < alto.size()) {
+    const std::size_t hit = alto.find("#IMG(", desde);
+    if (hit == std::string::npos) break;
+    const std::size_t cierre = alto.find("#IMG)", hit + 6);
+    if (cierre == std::string::npos) break;
+    const std::string_view arg = texto.substr(hit + 5, cierre - (hit + 5));
+    const std::size_t q1 = arg.find('\'');
+    const std::size_t q2 = q1 == std::string_view::npos ? q1 : arg.find('\'', q1 + 1);
+    if (q2 != std::string_view::npos && q2 > q1 + 1) {
+      std::string nombre(arg.substr(q1 + 1, q2 - q1 - 1));
+      if (vistos.insert(nombre).second) nombres.push_back(std::move(nombre));
+    }
+    desde = hit + 10;
+  }
+  return nombres;
+}
+
+std::string_view EtiquetaQueImpide(std::string_view texto) {
+  // Every tag the reader looks for before the header ends: the header's own
+  // end, the picture directory, and the closing tag of each header field.
+  static constexpr std::string_view kEtiquetas[] = {
+      "#CABECERA)", "#PROPARAM)", "#BINDIR(", "#BINDIR)", "#PRETIT)",  "#TITULO)",
+      "#POSTI1)",   "#POSTI2)",   "#POSNUMPAG)", "#COLRESPRO)", "#ORDENA)", "#PAGINI)",
+      "#POSSOL)",   "#PROPRE)",   "#PROSUF)",  "#PROINI)"};
+  std::string_view primera;
+  std::size_t donde = std::string_view::npos;
+  for (std::string_view e : kEtiquetas) {
+    const std::size_t p = texto.find(e);
+    if (p < donde) {
+      donde = p;
+      primera = e;
+    }
+  }
+  return primera;
+}
+
+std::optional<TextoNoGuardable> CabeceraNoGuardable(const ColeccionCab& cab) {
+  const std::pair<const char*, const std::string*> textos[] = {
+      {"PRETIT", &cab.PRETIT}, {"TITULO", &cab.TITULO}, {"POSTI1", &cab.POSTI1},
+      {"POSTI2", &cab.POSTI2}, {"PROPRE", &cab.PROPRE}, {"PROSUF", &cab.PROSUF}};
+  for (const auto& [campo, texto] : textos) {
+    const std::string_view e = EtiquetaQueImpide(*texto);
+    if (!e.empty()) return TextoNoGuardable{campo, std::string(e)};
+  }
+  return std::nullopt;
+}
+
 // ---- save ---------------------------------------------------------------------
 
-bool GuardarColeccion(Sesion& s) {
+namespace {
+
+enum class Guardado { Hecho, Fallo, Protegido };
+
+Guardado Guarda(Sesion& s) {
   Documento& doc = s.doc;
   Ocupacion ocupado(doc);
-  std::string texto = TextoColeccion(doc.col);
+  const std::string ruta = TextoDeRuta(doc.ruta);
+  const std::string aviso = s.textos.GetL_win("CantSaveFile") + std::string(kSalto) + ruta +
+                            std::string(kSalto) + std::string(kSalto);
+  // A header text the file cannot hold is refused before anything is written.
+  if (const auto malo = CabeceraNoGuardable(doc.col.cab)) {
+    s.plataforma.Critico(aviso + "The header text " + malo->campo + " holds \"" + malo->etiqueta +
+                         "\", which a worksheet file cannot store. Change that text and save again.");
+    return Guardado::Fallo;
+  }
+  const std::string base = TextoColeccion(doc.col);
+  std::string texto = base;
 
   std::string directorio;
   std::string datos;
@@ -354,17 +573,16 @@ bool GuardarColeccion(Sesion& s) {
       const QString q = RutaDeTexto(nombre);
       QString fichero = BuscaEnCarpeta(s.carpetas.Img(), q);
       if (fichero.isEmpty()) fichero = BuscaEnCarpeta(s.carpetas.temporal, q);
-      std::optional<std::string> bytes;
-      if (!fichero.isEmpty()) bytes = LeeFichero(fichero);
-      if (!bytes) {
+      std::string bytes;
+      if (fichero.isEmpty() || LeeFichero(fichero, bytes, kMaxTamanoColeccion) != Leido::Bien) {
         s.plataforma.Critico(nombre + std::string(kSalto) + s.textos.GetL_win("CantSaveImage"));
-        return false;
+        return Guardado::Fallo;
       }
       directorio += Campo(nombre, kNombreImagen);
       directorio += Campo(std::to_string(p), kCampoNumero);
-      directorio += Campo(std::to_string(bytes->size()), kCampoNumero);
-      datos += *bytes;
-      p += bytes->size();
+      directorio += Campo(std::to_string(bytes.size()), kCampoNumero);
+      datos += bytes;
+      p += bytes.size();
     }
     const std::size_t at = texto.find(kSinImagenes);
     if (at != std::string::npos)
@@ -372,27 +590,57 @@ bool GuardarColeccion(Sesion& s) {
                     "#BINDIR(" + Campo(std::to_string(d), kCampoNumero) + "#BINDIR)");
   }
 
-  std::optional<FalloGuardado> fallo = EscribeColeccion(doc.ruta, texto, directorio, datos);
+  // The file must give back what was written: the worksheet's text, and the
+  // pictures where the header says they are.
+  auto releer = [&](const QString& temporal) {
+    std::string bytes;
+    if (LeeFichero(temporal, bytes, kMaxTamanoColeccion) != Leido::Bien) return false;
+    Coleccion otra;
+    Adjuntos adj;
+    if (LeeColeccion(bytes, otra, adj) != Lectura::Bien) return false;
+    if (TextoColeccion(otra) != base) return false;
+    return nombres.empty() ? !adj.hay : adj.directorio == directorio && adj.datos == datos;
+  };
+  bool noRelee = false;
+  std::optional<FalloGuardado> fallo =
+      EscribeColeccion(doc.ruta, texto, directorio, datos, releer, noRelee);
   s.plataforma.DejaCorrer();
   if (!fallo && !QFileInfo::exists(doc.ruta))
     fallo = FalloGuardado{70, "Permission denied: " + std::system_category().message(ENOENT)};
   if (!fallo) {
     doc.Modificada = false;
-    return true;
+    return Guardado::Hecho;
   }
 
-  const std::string ruta = TextoDeRuta(doc.ruta);
+  if (noRelee) {
+    s.plataforma.Critico(aviso + "The file written did not read back as this worksheet, so the old file was kept.");
+    return Guardado::Fallo;
+  }
   if (fallo->numero == 75) {
     s.plataforma.Critico(s.textos.GetL_win("ErrorWriteProtectFile") + std::string(kSalto) + ruta +
                          std::string(kSalto) + std::string(kSalto) +
                          s.textos.GetL_win("SelectOtherFileName"));
-    s.plataforma.GuardarComo();
-  } else {
-    s.plataforma.Critico(s.textos.GetL_win("CantSaveFile") + std::string(kSalto) + ruta +
-                         std::string(kSalto) + std::string(kSalto) + "Error = " +
-                         std::to_string(fallo->numero) + std::string(kSalto) + fallo->descripcion);
+    return Guardado::Protegido;
   }
-  return false;
+  s.plataforma.Critico(aviso + "Error = " + std::to_string(fallo->numero) + std::string(kSalto) +
+                       fallo->descripcion);
+  return Guardado::Fallo;
+}
+
+}  // namespace
+
+bool GuardarColeccion(Sesion& s) {
+  switch (Guarda(s)) {
+    case Guardado::Hecho:
+      return true;
+    case Guardado::Fallo:
+      return false;
+    case Guardado::Protegido:
+      break;
+  }
+  // Save As runs as a job of its own, after this one has let go of the
+  // document, and its result is the result of the save.
+  return s.plataforma.GuardarComo();
 }
 
 // ---- load ---------------------------------------------------------------------
@@ -406,10 +654,10 @@ bool CargarColeccion(Sesion& s) {
 
   // Every damaged file ends here. The header read so far stays; the path is
   // dropped unless the caller says the file was recognised far enough.
-  auto invalido = [&](bool mantenRuta) {
+  auto invalido = [&](bool mantenRuta, const std::string& detalle = {}) {
     pl.CursorEspera(false);
     if (controlesApagados) pl.Ocupado(false);
-    pl.Aviso(s.textos.GetL_win("InvalidFile"));
+    pl.Aviso(s.textos.GetL_win("InvalidFile") + (detalle.empty() ? "" : std::string(kSalto) + detalle));
     if (!mantenRuta) doc.ruta.clear();
     if (doc.col.cab.NPROB == 0 || doc.col.problemas.empty()) NoColeccion(s);
     return false;
@@ -418,112 +666,39 @@ bool CargarColeccion(Sesion& s) {
   // Only a worksheet file is read.
   if (ruta.right(4).toUpper() != QLatin1String(".COL")) return invalido(false);
 
-  // The whole file.
+  // The whole file, unless it is far larger than any worksheet can be.
   pl.DejaCorrer();
   pl.CursorEspera(true);
-  const std::optional<std::string> leido = LeeFichero(ruta);
-  if (!leido) return invalido(false);
-  const std::string_view fichero = *leido;
+  std::string leido;
+  switch (LeeFichero(ruta, leido, kMaxTamanoColeccion)) {
+    case Leido::Bien:
+      break;
+    case Leido::NoSePuede:
+      return invalido(false);
+    case Leido::Grande:
+      return invalido(false, "The file is larger than " +
+                                 std::to_string(kMaxTamanoColeccion / (1024 * 1024)) +
+                                 " MB, far more than any worksheet needs, so it was not read.");
+  }
+  const std::string_view fichero = leido;
 
-  // A header must close.
-  const std::size_t finCab = fichero.find("#CABECERA)");
-  if (finCab == std::string_view::npos) return invalido(false);
-
-  // The window stays still while the file is read.
+  // A header must close before the window is held still to read the rest.
+  if (fichero.find("#CABECERA)") == std::string_view::npos) return invalido(false);
   pl.Ocupado(true);
   controlesApagados = true;
 
-  // The picture directory, if the first "#BINDIR(" names one inside the file.
-  std::string_view directorio;
-  std::string_view datos;
-  bool hayDirectorio = false;
-  std::string binDir;
-  const int64_t largo = static_cast<int64_t>(fichero.size());
-  if (const std::size_t b = fichero.find("#BINDIR("); b != std::string_view::npos) {
-    binDir = std::string(Mid(fichero, b + 9, kCampoNumero));
-    if (const auto d = Posicion(Val(binDir), 1, largo)) {
-      const std::string_view primera = Mid(fichero, static_cast<std::size_t>(*d) + 32, kCampoNumero);
-      if (const auto f = Posicion(Val(primera), *d + 1, largo + 1)) {
-        directorio = fichero.substr(static_cast<std::size_t>(*d - 1),
-                                    static_cast<std::size_t>(*f - *d));
-        datos = Tras(fichero, static_cast<std::size_t>(*f - 1));
-        hayDirectorio = true;
-      }
-    }
+  Adjuntos adj;
+  switch (LeeColeccion(fichero, doc.col, adj)) {
+    case Lectura::Bien:
+      break;
+    case Lectura::Invalido:
+      return invalido(false);
+    case Lectura::InvalidoConRuta:
+      return invalido(true);
   }
 
-  // Header and problem blocks.
-  std::string_view cab = Tras(fichero.substr(0, finCab), 10);
-  std::string_view resto = fichero.substr(finCab + 10);
-
-  // The header, tag by tag, in the order they are written.
-  ColeccionCab& c = doc.col.cab;
-  const auto tabla = Corta(cab, "#PROPARAM)", 10);
-  if (!tabla) return invalido(false);
-  // What a missing closing tag does: the field is emptied, or the file is
-  // invalid, with the path kept or not.
-  enum class SiFalta { Vacia, Invalido, InvalidoConRuta };
-  struct Campo {
-    const char* cierre;
-    std::size_t abre;  // the length of the opening tag
-    SiFalta siFalta;
-    void (*pon)(ColeccionCab&, std::string_view);
-  };
-  static constexpr Campo kCampos[] = {
-      {"#PRETIT)", 8, SiFalta::Vacia, [](ColeccionCab& c, std::string_view v) { c.PRETIT = v; }},
-      {"#TITULO)", 8, SiFalta::Invalido, [](ColeccionCab& c, std::string_view v) { c.TITULO = v; }},
-      {"#POSTI1)", 8, SiFalta::Vacia, [](ColeccionCab& c, std::string_view v) { c.POSTI1 = v; }},
-      {"#POSTI2)", 8, SiFalta::Vacia, [](ColeccionCab& c, std::string_view v) { c.POSTI2 = v; }},
-      {"#POSNUMPAG)", 11, SiFalta::Invalido,
-       [](ColeccionCab& c, std::string_view v) { c.POSNUMPAG = Entero(Val(v)); }},
-      {"#COLRESPRO)", 11, SiFalta::InvalidoConRuta,
-       [](ColeccionCab& c, std::string_view v) { c.COLRESPRO = Entero(Val(v)); }},
-      {"#ORDENA)", 8, SiFalta::Invalido,
-       [](ColeccionCab& c, std::string_view v) { c.ORDENA = Val(v) == 1 ? kVerdadero : int16_t{0}; }},
-      {"#PAGINI)", 8, SiFalta::Invalido,
-       [](ColeccionCab& c, std::string_view v) { c.PAGINI = Entero(Val(v)); }},
-      {"#POSSOL)", 8, SiFalta::Invalido,
-       [](ColeccionCab& c, std::string_view v) { c.POSSOL = Entero(Val(v)); }},
-      {"#PROPRE)", 8, SiFalta::Invalido, [](ColeccionCab& c, std::string_view v) { c.PROPRE = v; }},
-      {"#PROSUF)", 8, SiFalta::Invalido, [](ColeccionCab& c, std::string_view v) { c.PROSUF = v; }},
-      {"#PROINI)", 8, SiFalta::Invalido,
-       [](ColeccionCab& c, std::string_view v) { c.PROINI = Entero(Val(v)); }},
-  };
-  for (const Campo& k : kCampos) {
-    if (const auto v = Corta(cab, k.cierre, k.abre))
-      k.pon(c, *v);
-    else if (k.siFalta == SiFalta::Vacia)
-      k.pon(c, {});
-    else
-      return invalido(k.siFalta == SiFalta::InvalidoConRuta);
-  }
-  if (const auto v = Corta(cab, "#BINDIR)", 8)) binDir = std::string(Trim(*v));
-
-  // The problem table; a worksheet without problems is no worksheet.
-  doc.col.problemas = LeerProparam(*tabla);
-  c.NPROB = static_cast<int32_t>(doc.col.problemas.size());
-  if (c.NPROB == 0) return invalido(false);
-
-  // Statement and solution of each problem, block by block.
-  for (std::size_t i = 0; i < doc.col.problemas.size(); ++i) {
-    const std::string cierre = "#PRO" + ZeroPadCut(1000 + static_cast<long long>(i) + 1, 3) + ")";
-    const std::size_t p = resto.find(cierre);
-    if (p == std::string_view::npos) return invalido(true);
-    const std::string_view bloque = Tras(resto.substr(0, p), 8);
-    resto = resto.substr(p + cierre.size());
-    std::string_view sol;
-    if (const std::size_t q = bloque.find("#SOL("); q != std::string_view::npos) {
-      sol = bloque.substr(q + 5);
-      sol = sol.substr(0, sol.size() >= 5 ? sol.size() - 5 : 0);
-    }
-    const std::size_t largoEnu = bloque.size() >= sol.size() + 15 ? bloque.size() - sol.size() - 15 : 0;
-    Problema& pr = doc.col.problemas[i];
-    pr.Enunciado = std::string(Tras(bloque.substr(0, largoEnu), 5));
-    pr.Solucion = std::string(sol);
-  }
-
-  // Pictures the folders do not have yet.
-  if (hayDirectorio && Val(binDir) != 0) DesempaquetaImagenes(s, directorio, datos);
+  // The pictures the texts name.
+  if (adj.hay) DesempaquetaImagenes(s, adj, doc.col);
 
   // The pages.
   ArmarBloques(s, 1);

@@ -33,8 +33,9 @@ class Plataforma {
   virtual void EstadoDocumento(bool abierto) {}
   // A file was loaded or saved under this path: it heads the recent list.
   virtual void Reciente(const QString& ruta) {}
-  // After a write-protect error the user is offered Save As.
-  virtual void GuardarComo() {}
+  // After a write-protect error the user is offered Save As, once the save
+  // has let go of the document; true when the worksheet was then saved.
+  virtual bool GuardarComo() { return false; }
 };
 
 // Says nothing, asks nothing: for tests and batch work.

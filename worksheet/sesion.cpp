@@ -11,6 +11,7 @@ void NoColeccion(Sesion& s) {
   s.doc.ruta.clear();
   s.doc.paginaActual = 1;
   s.doc.numPaginas = 0;
+  s.doc.cortados.clear();
   s.doc.Modificada = false;
   s.plataforma.EstadoDocumento(false);
   s.plataforma.TituloVentana(TituloApp());

@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <tuple>
+
 #include "tests/typeset/canvas_registro.h"
 #include "typeset/motor.h"
 
@@ -26,41 +28,24 @@ struct Textos {
   std::unique_ptr<TextosVentana> textos;
 };
 
-TEST(Ajustes, DefaultsWithAnEmptyStore) {
-  AlmacenMemoria vacio;
-  Textos t;
-  const Ajustes a = LeeAjustes(vacio, *t.textos);
-  EXPECT_EQ(a.decimal, ".");
-  EXPECT_EQ(a.lista, ",");
-  EXPECT_EQ(a.division, "\xF7");
-  EXPECT_EQ(a.producto, "\xD7");
-  EXPECT_EQ(a.notacionCientifica, "\xD7" "10");
-  EXPECT_EQ(a.moneda, "$");
-  EXPECT_EQ(a.monedaPlural, "dollars");
-  EXPECT_EQ(a.intervaloAbre + a.intervaloCierra, "()");
-  EXPECT_EQ(a.solpos, 3);
-  EXPECT_EQ(a.pagpos, 11);
-  EXPECT_EQ(a.procol, 16777215);
-  EXPECT_EQ(a.prosuf, ")");
-  EXPECT_TRUE(a.ordena);
-  EXPECT_TRUE(a.mostrarPanelInicio);
-  EXPECT_FALSE(a.botonesEdicion);
-  EXPECT_EQ(a.signosEspejo[0], -1);
-  EXPECT_EQ(a.signosLente[0], -1);
-  EXPECT_EQ(a.signosLente[1], 1);
+TEST(Ajustes, DefaultsComeFromTheLanguageFileAndTheStoreOverrides) {
+  AlmacenMemoria al;
+  Textos vacio;
+  Ajustes a = LeeAjustes(al, *vacio.textos);
+  EXPECT_EQ(a.decimal + a.lista + a.division + a.producto + a.notacionCientifica + a.moneda,
+            ".,\xF7\xD7\xD7" "10$");
+  EXPECT_EQ(a.monedaPlural + a.intervaloAbre + a.intervaloCierra + a.prosuf, "dollars())");
+  EXPECT_EQ(std::vector<int>({a.solpos, a.pagpos, a.procol, a.signosEspejo[0], a.signosLente[0],
+                              a.signosLente[1]}),
+            std::vector<int>({3, 11, 16777215, -1, -1, 1}));
+  EXPECT_TRUE(a.ordena && a.mostrarPanelInicio && !a.botonesEdicion);
   EXPECT_EQ(a.recientesArchivo.size(), 9);
-}
 
-TEST(Ajustes, TheLanguageFileGivesDefaultsTheStoreOverrides) {
   Textos t(
       "[DefaultDecimalSeparator]=,\r\n[DefaultListSeparator]=;\r\n[DefaultCurrencySYMBOL]=\xE2\x82\xAC\r\n"
       "[DefaultCurrencyNameS]=euro\r\n[DefaultCurrencyNameP]=\r\n[GeomeOptiMirrol_POS_IMG]=1\r\n");
-  AlmacenMemoria al;
-  Ajustes a = LeeAjustes(al, *t.textos);
-  EXPECT_EQ(a.decimal, ",");
-  EXPECT_EQ(a.lista, ";");
-  EXPECT_EQ(a.moneda, "\x80");  // the euro sign, one byte
-  EXPECT_EQ(a.monedaNombre, "euro");
+  a = LeeAjustes(al, *t.textos);
+  EXPECT_EQ(a.decimal + a.lista + a.moneda + a.monedaNombre, ",;\x80" "euro");  // one-byte euro
   EXPECT_EQ(a.monedaPlural, "dollars");  // an empty default keeps the built-in value
   EXPECT_EQ(a.signosEspejo[1], 1);
   al.Escribe("SEPA", "DEC", "'");
@@ -71,35 +56,37 @@ TEST(Ajustes, TheLanguageFileGivesDefaultsTheStoreOverrides) {
 }
 
 TEST(Ajustes, StoredValuesAndTheirRules) {
-  struct Case {
-    const char* seccion;
-    const char* clave;
-    const char* valor;
-    std::function<void(const Ajustes&)> comprueba;
-  } cases[] = {
-      {"Wizard", "Solpos", "", [](const Ajustes& a) { EXPECT_EQ(a.solpos, 1); }},
-      {"Wizard", "Solpos", "2", [](const Ajustes& a) { EXPECT_EQ(a.solpos, 2); }},
-      {"Wizard", "Procol", "0", [](const Ajustes& a) { EXPECT_EQ(a.procol, 16777215); }},
-      {"Wizard", "Procol", "255", [](const Ajustes& a) { EXPECT_EQ(a.procol, 255); }},
-      {"INTERV", "LEFT_OPEN", "]",
-       [](const Ajustes& a) { EXPECT_EQ(a.intervaloAbre + a.intervaloCierra, "]["); }},
-      {"INTERV", "LEFT_OPEN", "[",
-       [](const Ajustes& a) { EXPECT_EQ(a.intervaloAbre + a.intervaloCierra, "()"); }},
-      {"Wizard", "Ordena", "N", [](const Ajustes& a) { EXPECT_FALSE(a.ordena); }},
-      {"INI_WIN", "SHOW", "0", [](const Ajustes& a) { EXPECT_FALSE(a.mostrarPanelInicio); }},
-      {"Ver", "EdicBotones", "S", [](const Ajustes& a) { EXPECT_TRUE(a.botonesEdicion); }},
-      {"DIVISION", "PRIMARY", ":", [](const Ajustes& a) { EXPECT_EQ(a.division, ":"); }},
+  // The settings a stored value may change, in one line.
+  auto vista = [](const Ajustes& a) {
+    return std::to_string(a.solpos) + " " + std::to_string(a.procol) + " " + std::to_string(a.pagpos) +
+           " " + a.intervaloAbre + a.intervaloCierra + " " + a.division + " " + std::to_string(a.ordena) +
+           std::to_string(a.mostrarPanelInicio) + std::to_string(a.botonesEdicion);
+  };
+  const char* casos[][4] = {
+      {"Wizard", "Solpos", "", "1 16777215 11 () \xF7 110"},
+      {"Wizard", "Solpos", "2", "2 16777215 11 () \xF7 110"},
+      {"Wizard", "Solpos", "-99999999999", "0 16777215 11 () \xF7 110"},
+      {"Wizard", "Procol", "0", "3 16777215 11 () \xF7 110"},
+      {"Wizard", "Procol", "255", "3 255 11 () \xF7 110"},
+      {"Wizard", "Procol", "99999999999", "3 16777215 11 () \xF7 110"},
+      {"Wizard", "Pagpos", "1E300", "3 16777215 15 () \xF7 110"},
+      {"Wizard", "Pagpos", "9", "3 16777215 9 () \xF7 110"},
+      {"INTERV", "LEFT_OPEN", "]", "3 16777215 11 ][ \xF7 110"},
+      {"INTERV", "LEFT_OPEN", "[", "3 16777215 11 () \xF7 110"},
+      {"Wizard", "Ordena", "N", "3 16777215 11 () \xF7 010"},
+      {"INI_WIN", "SHOW", "0", "3 16777215 11 () \xF7 100"},
+      {"Ver", "EdicBotones", "S", "3 16777215 11 () \xF7 111"},
+      {"DIVISION", "PRIMARY", ":", "3 16777215 11 () : 110"},
   };
   Textos t;
-  for (const auto& c : cases) {
+  for (const auto& c : casos) {
     AlmacenMemoria al;
-    al.Escribe(c.seccion, c.clave, c.valor);
-    SCOPED_TRACE(std::string(c.seccion) + "/" + c.clave + "=" + c.valor);
-    c.comprueba(LeeAjustes(al, *t.textos));
+    al.Escribe(c[0], c[1], c[2]);
+    EXPECT_EQ(vista(LeeAjustes(al, *t.textos)), c[3]) << c[0] << "/" << c[1] << "=" << c[2];
   }
 }
 
-TEST(Ajustes, TheUserStoreReadsKeysWithoutRegardToCase) {
+TEST(Ajustes, TheUserStoreReadsKeysWithoutRegardToCaseAndCommasAsText) {
   QTemporaryDir dir;
   const QString ini = dir.path() + QStringLiteral("/settings.ini");
   {
@@ -108,13 +95,20 @@ TEST(Ajustes, TheUserStoreReadsKeysWithoutRegardToCase) {
     al.Escribe("wizard", "PAGPOS", "10");  // the same key: no second copy
     al.Escribe("CURRENCY", "SYMBOL", QString::fromUtf8("\xE2\x82\xAC"));
   }
+  {
+    QFile f(ini);  // a hand edit with unquoted commas
+    ASSERT_TRUE(f.open(QIODevice::Append));
+    f.write("\n[SEPA]\nDEC=,\nLIS=a,b\n");
+  }
   AlmacenUsuario al(ini);
   EXPECT_EQ(al.Lee("WIZARD", "PagPos").value_or(""), "10");
+  EXPECT_EQ(al.Lee("sepa", "lis").value_or(""), "a,b");
   EXPECT_FALSE(al.Lee("Wizard", "Missing"));
   Textos t;
   const Ajustes a = LeeAjustes(al, *t.textos);
   EXPECT_EQ(a.pagpos, 10);
   EXPECT_EQ(a.moneda, "\x80");
+  EXPECT_EQ(a.decimal, ",");
   QFile f(ini);
   f.open(QIODevice::ReadOnly);
   EXPECT_EQ(f.readAll().count("agpos"), 1);
@@ -124,26 +118,15 @@ TEST(Ajustes, TheWizardsChoicesRoundTrip) {
   AlmacenMemoria al;
   Textos t;
   Ajustes a = LeeAjustes(al, *t.textos);
-  a.ordena = false;
-  a.solpos = 2;
-  a.pagpos = 9;
-  a.procol = 65280;
-  a.propre = "Problem ";
-  a.prosuf = ".";
-  a.asignatura = "Chemistry \xE9";
-  a.sysedu = "Secondary_Chemistry.sed";
-  a.showavan = true;
+  std::tie(a.ordena, a.solpos, a.pagpos, a.procol, a.propre, a.prosuf, a.asignatura, a.sysedu,
+           a.showavan) = std::make_tuple(false, 2, 9, 65280, "Problem ", ".", "Chemistry \xE9",
+                                         "Secondary_Chemistry.sed", true);
   GuardarAjustesAsistente(a, al);
   const Ajustes b = LeeAjustes(al, *t.textos);
-  EXPECT_FALSE(b.ordena);
-  EXPECT_EQ(b.solpos, 2);
-  EXPECT_EQ(b.pagpos, 9);
-  EXPECT_EQ(b.procol, 65280);
-  EXPECT_EQ(b.propre, "Problem ");
-  EXPECT_EQ(b.prosuf, ".");
-  EXPECT_EQ(b.asignatura, "Chemistry \xE9");
-  EXPECT_EQ(b.sysedu, "Secondary_Chemistry.sed");
-  EXPECT_TRUE(b.showavan);
+  EXPECT_EQ(std::tie(b.ordena, b.solpos, b.pagpos, b.procol, b.propre, b.prosuf, b.asignatura,
+                     b.sysedu, b.showavan),
+            std::tie(a.ordena, a.solpos, a.pagpos, a.procol, a.propre, a.prosuf, a.asignatura,
+                     a.sysedu, a.showavan));
 }
 
 TEST(Ajustes, ANewDecimalMarkShowsOnAnOldWorksheetAtItsNextDrawing) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "problems/aleatorio.h"
 
 namespace ss {
@@ -21,14 +23,9 @@ TEST(ComandoProblema, ColumnsInTheirOrderPaddedAndCut) {
   };
   for (const auto& c : cases) {
     Problema p;
-    p.Rutina = c.rutina;
-    p.Semilla = c.semilla;
-    p.NumVariante = c.variante;
-    p.Cantidad = c.cantidad;
-    p.Total = c.total;
-    p.Orden = c.orden;
+    std::tie(p.Rutina, p.Semilla, p.NumVariante, p.Cantidad, p.Total, p.Orden) =
+        std::tie(c.rutina, c.semilla, c.variante, c.cantidad, c.total, c.orden);
     EXPECT_EQ(ComandoProblema(p), c.command);
-    EXPECT_EQ(ComandoProblema(p).size(), 16u);
   }
 }
 
@@ -45,92 +42,59 @@ ArbolItem Fila(const char* modulo, int16_t rutina, bool marcado, int16_t c1, int
   return f;
 }
 
-Arbol ArbolDePrueba() {
-  Arbol a;
-  ArbolItem raiz;
-  raiz.Nivel = 0;
-  raiz.EsRama = true;
-  raiz.Tipo = 6;
-  a.Agrega(raiz);
-  a.Agrega(Fila("ANEU_QUIM_DIS", 4, true, 3, 5));
-  a.Agrega(Fila("ANEU_QUIM_TER", 2, true, 0));    // marked, no amount
-  a.Agrega(Fila("ANEU_QUIM_EAB", 1, false, 4));   // amount, not marked
-  a.Agrega(Fila("ANEU_QUIM_EGA", 3, true, 1, 2));
-  return a;
+using Receta = std::tuple<std::string, int, int, int, int, int, int>;
+std::vector<Receta> Recetas(const Coleccion& col) {
+  std::vector<Receta> r;
+  for (const Problema& p : col.problemas)
+    r.emplace_back(p.Modulo, p.Rutina, p.Semilla, p.NumVariante, p.Total, p.Orden, p.Cantidad);
+  return r;
 }
 
 TEST(ArbolToVar, OnlyRowsMarkedWithAnAmountYieldProblemsInTreeOrder) {
-  Arbol a = ArbolDePrueba();
+  Arbol a;
+  a.Agrega(ArbolItem{}).Tipo = 6;
+  a.Agrega(Fila("ANEU_QUIM_DIS", 4, true, 3, 5));
+  a.Agrega(Fila("ANEU_QUIM_TER", 2, true, 0));   // marked, no amount
+  a.Agrega(Fila("ANEU_QUIM_EAB", 1, false, 4));  // amount, not marked
+  a.Agrega(Fila("ANEU_QUIM_EGA", 3, true, 1, 2));
   Coleccion col;
   col.problemas.resize(7);  // whatever was there goes
   Aleatorio rnd = Aleatorio::Guionado({0.5, 0.25, 0.1, 0.9});
   Arbol_to_Var(a, col, rnd);
-  ASSERT_EQ(col.problemas.size(), 4u);
   EXPECT_EQ(col.cab.NPROB, 4);
-
+  EXPECT_EQ(Recetas(col), (std::vector<Receta>{
+                              {"ANEU_QUIM_DIS", 4, 450, 2250, 3, 1, 5},  // 0.5 * 900, 0.25 * 9000
+                              {"ANEU_QUIM_DIS", 4, 451, 2251, 3, 2, 5},
+                              {"ANEU_QUIM_DIS", 4, 452, 2252, 3, 3, 5},
+                              {"ANEU_QUIM_EGA", 3, 90, 8100, 1, 1, 2}}));
   // The half-filled rows are cleared.
-  EXPECT_FALSE(a.filas[3].Marcado);
-  EXPECT_EQ(a.filas[3].Cantidad1, 0);
-  EXPECT_FALSE(a.filas[4].Marcado);
-  EXPECT_EQ(a.filas[4].Cantidad1, 0);
+  for (int i : {3, 4}) EXPECT_FALSE(a.filas[i].Marcado || a.filas[i].Cantidad1);
   EXPECT_TRUE(a.filas[2].Marcado);
-
-  struct Want {
-    const char* modulo;
-    int16_t rutina, semilla, variante, total, orden, cantidad;
-  } want[] = {
-      {"ANEU_QUIM_DIS", 4, 450, 2250, 3, 1, 5},  // floor(0.5 * 900), floor(0.25 * 9000)
-      {"ANEU_QUIM_DIS", 4, 451, 2251, 3, 2, 5},
-      {"ANEU_QUIM_DIS", 4, 452, 2252, 3, 3, 5},
-      {"ANEU_QUIM_EGA", 3, 90, 8100, 1, 1, 2},   // floor(0.1 * 900), floor(0.9 * 9000)
-  };
-  for (std::size_t i = 0; i < std::size(want); ++i) {
-    const Problema& p = col.problemas[i];
-    EXPECT_EQ(p.Modulo, want[i].modulo);  // trimmed of its padding
-    EXPECT_EQ(p.Rutina, want[i].rutina);
-    EXPECT_EQ(p.Semilla, want[i].semilla) << i;
-    EXPECT_EQ(p.NumVariante, want[i].variante) << i;
-    EXPECT_EQ(p.Total, want[i].total);
-    EXPECT_EQ(p.Orden, want[i].orden);
-    EXPECT_EQ(p.Cantidad, want[i].cantidad);
-    EXPECT_TRUE(p.Enunciado.empty());
-  }
 }
 
-TEST(ArbolToVar, CountersRunOnPastTheirFirstRange) {
+TEST(ArbolToVar, CountersRunOnAndTheListStopsAtFiveHundred) {
   Arbol a;
   a.Agrega(ArbolItem{});
   a.Agrega(Fila("ANEU_QUIM_DIS", 1, true, 3));
   Coleccion col;
   Aleatorio rnd = Aleatorio::Guionado({0.9999999, 0.9999999});
   Arbol_to_Var(a, col, rnd);
-  ASSERT_EQ(col.problemas.size(), 3u);
-  EXPECT_EQ(col.problemas[0].Semilla, 899);
-  EXPECT_EQ(col.problemas[1].Semilla, 900);
-  EXPECT_EQ(col.problemas[2].Semilla, 901);
-  EXPECT_EQ(col.problemas[0].NumVariante, 8999);
-  EXPECT_EQ(col.problemas[1].NumVariante, 9000);
-  EXPECT_EQ(col.problemas[2].NumVariante, 9001);
-  EXPECT_EQ(ComandoProblema(col.problemas[2]), "0019019001000303");
-}
-
-TEST(ArbolToVar, StopsAtFiveHundredProblems) {
-  Arbol a;
-  a.Agrega(ArbolItem{});
+  EXPECT_EQ(Recetas(col), (std::vector<Receta>{{"ANEU_QUIM_DIS", 1, 899, 8999, 3, 1, 0},
+                                               {"ANEU_QUIM_DIS", 1, 900, 9000, 3, 2, 0},
+                                               {"ANEU_QUIM_DIS", 1, 901, 9001, 3, 3, 0}}));
   for (int i = 0; i < 6; ++i) a.Agrega(Fila("ANEU_QUIM_DIS", 1, true, 99));
-  Coleccion col;
-  Aleatorio rnd(3);
-  Arbol_to_Var(a, col, rnd);
-  EXPECT_EQ(col.problemas.size(), 500u);
+  Aleatorio otro(3);
+  Arbol_to_Var(a, col, otro);
   EXPECT_EQ(col.cab.NPROB, 500);
-  EXPECT_EQ(col.problemas.back().Orden, 5);  // 5 x 99 = 495, then 5 of the sixth row
+  EXPECT_EQ(col.problemas.back().Orden, 2);  // 3 + 5 x 99 = 498, then 2 of the sixth row
 }
 
-TEST(Arbol, HoldsAtMost390RowsBesideTheEmptyRow0) {
+TEST(Arbol, EveryRowIsKeptAndTheNewRowIsHandedBack) {
   Arbol a;
   EXPECT_EQ(a.Count(), 0);
-  for (int i = 0; i < 400; ++i) a.Agrega(ArbolItem{});
-  EXPECT_EQ(a.Count(), kMaxFilasArbol);
+  for (int i = 1; i <= 400; ++i) a.Agrega(ArbolItem{}).Rutina = static_cast<int16_t>(i);
+  ASSERT_EQ(a.Count(), 400);
+  EXPECT_EQ(a.filas[400].Rutina, 400);
 }
 
 }  // namespace

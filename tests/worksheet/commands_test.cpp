@@ -25,15 +25,11 @@ TEST(ProcesaCommand, ReadsOnePathOrQuotedWorksheets) {
       {"\"\t/a/tab.col\"", {"\t/a/tab.col"}},                // only blanks are trimmed
   };
   for (const auto& c : cases) EXPECT_EQ(ProcesaCommand(c.command), c.files) << c.command.toStdString();
-}
-
-TEST(ProcesaCommand, KeepsTheFirstSixteenOfSeventeen) {
-  QString command;
+  QString command;  // the first sixteen of seventeen
   for (int i = 1; i <= 17; ++i) command += QStringLiteral("\"/w/s%1.col\" ").arg(i);
   const QStringList files = ProcesaCommand(command);
-  ASSERT_EQ(files.size(), 16);
-  EXPECT_EQ(files.front(), "/w/s1.col");
-  EXPECT_EQ(files.back(), "/w/s16.col");
+  EXPECT_EQ(QStringList({files.size() == 16 ? "16" : "?", files.front(), files.back()}),
+            QStringList({"16", "/w/s1.col", "/w/s16.col"}));
 }
 
 TEST(TextoComando, OneArgumentStandsSeveralAreQuoted) {
