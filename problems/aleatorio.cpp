@@ -2,6 +2,8 @@
 
 #include <chrono>
 
+#include "problems/fallos.h"
+
 namespace ss {
 namespace {
 
@@ -29,6 +31,8 @@ Aleatorio Aleatorio::Guionado(std::vector<double> valores) {
 }
 
 double Aleatorio::Siguiente() {
+  if (TiradasRestantes == 0) throw GenFault::Internal();
+  if (TiradasRestantes > 0) --TiradasRestantes;
   if (!guion_.empty()) {
     double v = guion_[siguienteGuion_];
     siguienteGuion_ = (siguienteGuion_ + 1) % guion_.size();

@@ -26,6 +26,12 @@ class Aleatorio {
   // Set when a draw of AleatorioEn gave up on a range it could not meet.
   bool RangoFallido = false;
 
+  // Draws left before Siguiente gives up with an internal fault; negative for
+  // no limit. A generator whose redraw loop can never be met (a table without a
+  // fitting row, a scripted source) then ends as a notice in its problem
+  // instead of hanging the program.
+  long long TiradasRestantes = -1;
+
   // A source that returns the given values in turn, over and over, and
   // ignores re-seeding: for tests that need exact draws.
   static Aleatorio Guionado(std::vector<double> valores);

@@ -21,7 +21,7 @@ namespace {
 // How often an item is drawn again before the exercise gives up. The ranges
 // below are met within a few tries; the bound only keeps a bad random source
 // from hanging the program.
-constexpr int kIntentos = 100000;
+constexpr int kIntentos = 1000;
 
 // ---------------------------------------------------------------------------
 // The frame every conversion exercise shares: a title, one line an item

@@ -255,6 +255,13 @@ void GeneraProblema(TablaModulos modulos, GenContext& g, std::string_view module
   const std::string normal = NormalizaModulo(moduleName);
   int numero = 0;
   std::string descripcion;
+  // A real problem takes a few hundred draws; ten million mean a redraw loop
+  // that cannot end.
+  struct Presupuesto {
+    Aleatorio& rnd;
+    explicit Presupuesto(Aleatorio& r) : rnd(r) { rnd.TiradasRestantes = 10'000'000; }
+    ~Presupuesto() { rnd.TiradasRestantes = -1; }
+  } presupuesto(g.rnd);
   try {
     const ModuloDef* modulo = nullptr;
     for (const ModuloDef* m : modulos)

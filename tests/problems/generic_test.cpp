@@ -39,10 +39,14 @@ void GenNan(GenContext& g) { g.GP_Statement = "The mass is " + std::to_string(st
 void GenSilent(GenContext&) {}
 void GenWords(GenContext& g) { g.GP_Statement = "Sodium azide NaN_3, infinite infrared nano-world"; }
 void GenFallback(GenContext& g) { g.GP_Statement = "fallback made it " + g.GP_Case; }
+void GenEndless(GenContext& g) {  // 9: a redraw loop whose condition no draw meets
+  while (!g.GP_ListMode && g.rnd.Siguiente() >= 0) {
+  }
+}
 
-// 5 nan, 6 silent (its fallback answers), 7 not written yet, 8 words.
-constexpr Generador kGen[] = {GenNormal, GenDivide, GenThrowsStd, GenThrowsOther,
-                              GenNan,    GenSilent, nullptr,      GenWords};
+// 5 nan, 6 silent (its fallback answers), 7 not written yet, 8 words, 9 endless.
+constexpr Generador kGen[] = {GenNormal, GenDivide, GenThrowsStd, GenThrowsOther, GenNan,
+                              GenSilent, nullptr,   GenWords,     GenEndless};
 constexpr Generador kRespaldo[] = {nullptr, nullptr, nullptr, nullptr, nullptr, GenFallback};
 const ModuloDef kTst{"ANEU_QUIM_TST", "TST", kGen, "ATEM_QUIM_TST", kRespaldo};
 // A module whose catalogue entries stand in a table beside its generators: the
@@ -61,7 +65,7 @@ MensajesFijos Completos() {
           {"Stmt_volume", "Variant %SEQB% of case %CASE%."}, {"Stmt_end", ""}, {"S_TST_1", "Volume of a gas"},
           {"D_TST_1", "&D1 Find the volume"}, {"S_TST_2", "Divides"}, {"D_TST_2", std::string(200, 'd')},
           {"S_TST_3", "Throws"}, {"D_TST_3", "&D2 Throws"}, {"S_TST_4", "Other"}, {"S_TST_5", "Nan"},
-          {"S_TST_6", "Silent"}, {"S_TST_7", "Not written"}, {"S_TST_8", "Words"},
+          {"S_TST_6", "Silent"}, {"S_TST_7", "Not written"}, {"S_TST_8", "Words"}, {"S_TST_9", "Endless"},
           {"S_TAB_1", "Tabled"},
           {"D_TAB_1", "&D1 Tabled"}, {"S_TAB_2", "Not written yet"}, {"D_TAB_2", "&D2 Later"}};
 }
@@ -116,6 +120,7 @@ TEST(GeneraProblema, ModulesGeneratorsAndNotices) {
        "&LFCommand= 0020000000000000&LFModule=okbr__chem__tst alias ANEU__QUIM__TST&LF | <ERROR>&LF"},
       {"=", "ANEU_QUIM_TST", "003", falla("5", "table row 12 missing", "003")},
       {"=", "ANEU_QUIM_TST", "004", falla("51", "Internal error", "004")},
+      {"=", "ANEU_QUIM_TST", "009", falla("51", "Internal error", "009")},
       {"=", "ANEU_QUIM_TST", "005", falla("6", "Overflow", "005")},
       {"=", "ANEU_QUIM_TST", "0019e9", falla("6", "Overflow", "0019e9")},
   };

@@ -104,7 +104,7 @@ TEST(ArmarBloques, BlocksFollowWhereTheSolutionsGo) {
     EXPECT_EQ(e.Campo(&Bloque::Problema), c.problemas);
     EXPECT_EQ(e.Campo(&Bloque::Origen), c.origenes);
     for (std::size_t i = 0; i < c.textos.size(); ++i)
-      if (!c.textos[i].empty()) EXPECT_EQ(e.doc.bloques[i].Texto, c.textos[i]) << i;
+      if (!c.textos[i].empty()) { EXPECT_EQ(e.doc.bloques[i].Texto, c.textos[i]) << i; }
     EXPECT_TRUE(e.doc.Modificada);
     EXPECT_EQ(e.doc.ruta, "/tmp/kept.col");  // only new texts lose their file
   }
@@ -195,7 +195,7 @@ void CompruebaPaginas(Entorno& e, std::set<int> cortados = {}) {
   EXPECT_EQ(std::set<int>(e.doc.cortados.begin(), e.doc.cortados.end()), cortados);
   if (e.doc.col.cab.POSSOL == 3) {  // the solutions start on a page of their own
     auto sol = std::find_if(bl.begin(), bl.end(), [](const Bloque& b) { return b.Problema < 0; });
-    if (sol != bl.begin() && sol != bl.end()) EXPECT_GT(sol->Pagina, (sol - 1)->Pagina);
+    if (sol != bl.begin() && sol != bl.end()) { EXPECT_GT(sol->Pagina, (sol - 1)->Pagina); }
   }
   for (int p = 1; p <= e.doc.numPaginas; ++p) {
     std::vector<const Bloque*> en;
@@ -376,7 +376,7 @@ TEST(CrearColeccion, MakesTheTextsInOrderOrShuffledAndLeavesNoFile) {
       mismos += ComandoProblema(p) == ComandoProblema(antes[i]);
       std::string st, so;  // the module's text of the recipe, one after the other from one seed
       GeneraProblema(referencia, p.Modulo, ComandoProblema(p), st, so);
-      if (ordena) EXPECT_EQ(p.Enunciado + p.Solucion, st + so);
+      if (ordena) { EXPECT_EQ(p.Enunciado + p.Solucion, st + so); }
     }
     EXPECT_EQ(a, b);
     EXPECT_EQ(mismos == 30, ordena != 0);

@@ -223,9 +223,9 @@ TEST(ColFile, PicturesTravelInsideTheFileAndReplaceOldCopies) {
     if (c.propia.isEmpty()) esperados.prepend("beaker.PNG");
     EXPECT_EQ(QDir(b.s.carpetas.temporal).entryList(QDir::Files, QDir::Name), esperados);
     EXPECT_EQ(Lee(b.Temp("flask.gif")), flask);
-    if (c.propia.isEmpty()) EXPECT_EQ(Lee(b.Temp("beaker.PNG")), beaker);
+    if (c.propia.isEmpty()) { EXPECT_EQ(Lee(b.Temp("beaker.PNG")), beaker); }
     ASSERT_TRUE(b.Guarda(b.Ruta("again.col")));
-    if (c.propia.isEmpty()) EXPECT_EQ(Lee(b.Ruta("again.col")), f);
+    if (c.propia.isEmpty()) { EXPECT_EQ(Lee(b.Ruta("again.col")), f); }
   }
   struct stat st {};
   ASSERT_EQ(::stat(QFile::encodeName(a.s.carpetas.temporal).constData(), &st), 0);
@@ -388,8 +388,10 @@ TEST(ColFile, DamagedFilesEndInTheInvalidFileBoxAndKeepWhatTheReaderLeaves) {
     EXPECT_EQ((b.doc.ruta.isEmpty() ? "- " : "path ") + std::to_string(n) + " " + (n ? b.doc.col.cab.PRETIT : ""), c.queda);
     EXPECT_EQ(b.doc.col.cab.NPROB, static_cast<int32_t>(n));
     EXPECT_EQ(b.doc.bloques.size(), n ? 5u : 0u);  // no rebuild ran
-    if (n == 3) EXPECT_EQ(b.doc.col.problemas[0].Solucion, "18 g");
-    if (n) EXPECT_TRUE(b.pl.titulos.empty());  // the window still shows the old worksheet
+    if (n == 3) { EXPECT_EQ(b.doc.col.problemas[0].Solucion, "18 g"); }
+    if (n) {
+      EXPECT_TRUE(b.pl.titulos.empty());  // the window still shows the old worksheet
+    }
     EXPECT_EQ(b.doc.AppBusy, 0);
   }
 }
