@@ -10,6 +10,7 @@
 
 #include "modules/modulos.h"
 #include "problems/texto.h"
+#include "worksheet/armado.h"
 #include "worksheet/colfile.h"
 #include "worksheet/temario.h"
 
@@ -192,8 +193,7 @@ void PlataformaCli::Cuenta(const std::string& siNada) const {
 Trabajo::Trabajo(std::optional<uint64_t> seed)
     : gen(&servicios.mensajes, ss::Aleatorio(seed)),
       s{doc, plataforma, gen, motor, oculta, textos,
-        ss::Carpetas{QCoreApplication::applicationDirPath(), ss::CarpetaTemporal()}} {
-  // The scratch folder is shared with the desktop program: taking its lock belongs here.
+        ss::Carpetas{QCoreApplication::applicationDirPath(), temporal.Ruta()}} {
   motor.reemplazos = NotacionPorDefecto(servicios);
 }
 
@@ -212,6 +212,10 @@ bool Trabajo::Carga(const QString& ruta) {
   if (ss::CargarColeccion(s) && !doc.col.problemas.empty()) return true;
   plataforma.Cuenta(textos.GetL_win("InvalidFile"));
   return false;
+}
+
+void Trabajo::AvisaCortes() const {
+  for (int bloque : doc.cortados) Aviso(DeCp1252(ss::AvisoCorte(doc, bloque)));
 }
 
 }  // namespace cli

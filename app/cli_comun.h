@@ -131,12 +131,16 @@ struct Trabajo {
   ss::Motor motor;
   ss::CanvasQt oculta{nullptr};
   ss::TextosVentana textos{CarpetaPrograma(), "MAI"};
+  ss::UsoCarpetaTemporal temporal;  // shared with the desktop program, under its lock
   ss::Sesion s;
 
   explicit Trabajo(std::optional<uint64_t> seed = std::nullopt);
   // Reads a worksheet file; false after telling why on stderr: a file that
   // is missing, a folder or unreadable is told apart from a damaged one.
   bool Carga(const QString& ruta);
+  // A warning on stderr for each problem taller than a page, which is cut at
+  // the foot of a page of its own.
+  void AvisaCortes() const;
 };
 
 }  // namespace cli

@@ -133,10 +133,14 @@ int ComandoNew(const QStringList& args) {
   if (!salida.endsWith(QStringLiteral(".col"), Qt::CaseInsensitive))
     return Usage(kNew, QStringLiteral("new needs -o FILE.col"));
   for (const auto& [opcion, campo] : {std::pair{"title", &cab.TITULO}, std::pair{"pretit", &cab.PRETIT},
-                                      std::pair{"posti1", &cab.POSTI1}, std::pair{"posti2", &cab.POSTI2}})
+                                      std::pair{"posti1", &cab.POSTI1}, std::pair{"posti2", &cab.POSTI2}}) {
     *campo = ACp1252(a.Valor(QLatin1String(opcion)), QStringLiteral("--") + QLatin1String(opcion));
-  // The header texts are final here: a check that refuses texts the file
-  // cannot hold belongs at this point, before anything is made.
+    // The file has no escapes: a text holding one of its closing tags could
+    // not be read back, so it is refused before anything is made.
+    if (const std::string_view tag = ss::EtiquetaQueImpide(*campo); !tag.empty())
+      return Usage(kNew, QStringLiteral("--%1 cannot hold \"%2\": the worksheet file could not be read back")
+                             .arg(QLatin1String(opcion), DeCp1252(std::string(tag))));
+  }
 
   Trabajo t(seed);
   std::vector<std::string> catalogo;
@@ -174,7 +178,7 @@ int ComandoNew(const QStringList& args) {
   t.doc.col.cab = cab;
   ss::Arbol_to_Var(arbol, t.doc.col, t.gen.rnd);
   ss::CrearColeccion(t.s, 1);
-  // The worksheet is paged here: problems taller than a page are known at this point.
+  t.AvisaCortes();
   t.doc.ruta = salida;
   if (!ss::GuardarColeccion(t.s)) {
     t.plataforma.Cuenta("cannot write " + salida.toStdString());
@@ -213,7 +217,7 @@ int ComandoRender(const QStringList& args) {
 
   Trabajo t;
   if (!t.Carga(a.Posicionales()[0])) return 1;
-  // The worksheet is paged: problems taller than a page are known from here on.
+  t.AvisaCortes();
   const ss::ColeccionCab& cab = t.doc.col.cab;
   const ss::PintaPagina pinta = [&](int pagina, ss::Canvas& canvas) {
     t.motor.ComponerTexto(ss::TextoPagina(t.doc, pagina), 12, canvas);
@@ -247,9 +251,14 @@ int ComandoInfo(const QStringList& args) {
       {"PROINI", c.PROINI},        {"POSSOL", c.POSSOL},            {"PRETIT", DeCp1252(c.PRETIT)},
       {"TITULO", DeCp1252(c.TITULO)}, {"POSTI1", DeCp1252(c.POSTI1)}, {"POSTI2", DeCp1252(c.POSTI2)},
       {"ORDENA", c.ORDENA != 0}};
+  t.AvisaCortes();
+  std::vector<bool> cortado(t.doc.col.problemas.size() + 1);
+  for (int b : t.doc.cortados) cortado.at(t.doc.bloques.at(static_cast<std::size_t>(b - 1)).Origen) = true;
   QJsonArray problemas;
+  int n = 0;
   for (const ss::Problema& p : t.doc.col.problemas)
     problemas.append(QJsonObject{{"module", DeCp1252(p.Modulo)},
+                                 {"cut", static_cast<bool>(cortado.at(static_cast<std::size_t>(++n)))},
                                  {"command", DeCp1252(ss::ComandoProblema(p))},
                                  {"Rutina", p.Rutina},
                                  {"Semilla", p.Semilla},

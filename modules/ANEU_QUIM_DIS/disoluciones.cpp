@@ -268,7 +268,7 @@ double RedondeaRespuesta(double x) {
 std::string TextoRespuesta(double x) {
   const double r = RedondeaRespuesta(x);
   std::string t = NumTexto(r);
-  if (r == 0 || std::fabs(r) >= 1) return t;
+  if (r == 0) return t;
   // Count the significant digits shown and add the zeros that are missing.
   int cifras = 0;
   bool significativa = false;

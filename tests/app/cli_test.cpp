@@ -109,6 +109,9 @@ TEST(Cli, WrongArgumentsGiveOneUsageLineExit2AndNoFile) {
       nuevo + QStringList{"--all", "1", "-o", dir.filePath("x.txt")}, nuevo.mid(0, 3) + QStringList{"--all", "1"},
       nuevo + QStringList{"--all", "1", "--seed", "-3"}, nuevo + QStringList{"--all", "1", "--bogus"},
       nuevo + QStringList{"stray", "--all", "1"},
+      // Header texts the file could not read back.
+      nuevo + QStringList{"--all", "1", "--title", "#CABECERA)"}, nuevo + QStringList{"--all", "1", "--title", "Test #TITULO) x"},
+      nuevo + QStringList{"--all", "1", "--posti1", "a #POSTI2) b"},
       {"new", "--sysedu", "Secondary_Chemistry.sed", "--subject", "Chemistry 1", "--item", "ANEU_QUIM_DIS:14=1", "-o", col},
       {"render", "x.col"}, {"render", "x.col", "-o", dir.filePath("out.png")} /* no %d for the pages */,
       {"render", "x.col", "-o", dir.filePath("out.svg")}, {"render", "x.col", "-o", "o-%d.png", "--zoom", "0"},
@@ -250,6 +253,23 @@ TEST(Cli, NewMarksWhatIsAskedAndTheSeedRepeatsIt) {
 
   EXPECT_EQ(Cli({"new", "--sysedu", "Secondary_Chemistry.sed", "--subject", "Chemistry 1", "--item", "ANEU_QUIM_DIS:9=2",
                  "--item", "ANEU_QUIM_DIS:11=1:4", "-o", dir.filePath("c1.col")}).obj().value("problems").toInt(), 3);
+
+  // A problem taller than a page gets a page of its own, is cut, and every command that pages says so.
+  QByteArray alto = Lee(dir.filePath("c1.col"));
+  const qsizetype i = alto.indexOf("#PRO002(#ENU(") + 13;
+  alto.replace(i, alto.indexOf("#ENU)", i) - i, QByteArray("A line of a long statement.&LF").repeated(120));
+  Escribe(dir.filePath("tall.col"), alto);
+  for (const QStringList& args : {QStringList{"info", dir.filePath("tall.col")},
+                                  QStringList{"render", dir.filePath("tall.col"), "-o", dir.filePath("t.pdf")}}) {
+    const Salida t = Cli(args);
+    EXPECT_EQ(t.code, 0);
+    EXPECT_EQ(t.err, "warning: Problem 2 is taller than a page: it has page 2 to itself and is cut off at the foot of that page.\n");
+    EXPECT_EQ(t.obj().value("pages").toInt(), 3);
+    if (args[0] == "info") {
+      const QJsonArray p = t.obj()["problems"].toArray();
+      EXPECT_EQ(QList<bool>({p[0]["cut"].toBool(), p[1]["cut"].toBool(), p[2]["cut"].toBool()}), QList<bool>({false, true, false}));
+    }
+  }
 }
 
 // Every page is written, or, when a file cannot be read or an output cannot be
