@@ -556,8 +556,10 @@ Guardado Guarda(Sesion& s) {
                             std::string(kSalto) + std::string(kSalto);
   // A header text the file cannot hold is refused before anything is written.
   if (const auto malo = CabeceraNoGuardable(doc.col.cab)) {
-    s.plataforma.Critico(aviso + "The header text " + malo->campo + " holds \"" + malo->etiqueta +
-                         "\", which a worksheet file cannot store. Change that text and save again.");
+    std::string texto = s.textos.GetL_win("HeaderTextNotStorable");
+    Reemplaza(texto, "%FIELD%", malo->campo);
+    Reemplaza(texto, "%TAG%", std::string(malo->etiqueta));
+    s.plataforma.Critico(aviso + texto);
     return Guardado::Fallo;
   }
   const std::string base = TextoColeccion(doc.col);
@@ -613,7 +615,7 @@ Guardado Guarda(Sesion& s) {
   }
 
   if (noRelee) {
-    s.plataforma.Critico(aviso + "The file written did not read back as this worksheet, so the old file was kept.");
+    s.plataforma.Critico(aviso + s.textos.GetL_win("SavedFileNotReadBack"));
     return Guardado::Fallo;
   }
   if (fallo->numero == 75) {
@@ -676,9 +678,11 @@ bool CargarColeccion(Sesion& s) {
     case Leido::NoSePuede:
       return invalido(false);
     case Leido::Grande:
-      return invalido(false, "The file is larger than " +
-                                 std::to_string(kMaxTamanoColeccion / (1024 * 1024)) +
-                                 " MB, far more than any worksheet needs, so it was not read.");
+    {
+      std::string texto = s.textos.GetL_win("FileTooLarge");
+      Reemplaza(texto, "%MB%", std::to_string(kMaxTamanoColeccion / (1024 * 1024)));
+      return invalido(false, texto);
+    }
   }
   const std::string_view fichero = leido;
 
