@@ -5,7 +5,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
 #include <QTemporaryDir>
 
 #include "problems/idioma.h"
@@ -13,47 +12,11 @@
 #include "typeset/motor.h"
 #include "worksheet/armado.h"
 #include "worksheet/colfile.h"
+#include "bench/hoja_bench.h"
 
 namespace {
 
-// Everything a worksheet command works with, quiet.
-struct Entorno {
-  ss::Documento doc;
-  ss::PlataformaMuda plataforma;
-  ss::Mensajes mensajes{SS_SOURCE_DIR};
-  ss::GenContext gen{&mensajes, ss::Aleatorio(2024)};
-  ss::Motor motor;
-  ss::CanvasQt oculta{nullptr};
-  ss::TextosVentana textos{SS_SOURCE_DIR, "MAI"};
-  ss::Sesion s{doc, plataforma, gen, motor, oculta, textos, ss::Carpetas{}};
-
-  // Problems of the gases, formulas and solutions module (500 unless told),
-  // solutions after their problems, page numbers at the foot.
-  explicit Entorno(int problemas = 500) {
-    ss::ColeccionCab& cab = doc.col.cab;
-    cab.POSSOL = 1;
-    cab.POSNUMPAG = 9;
-    cab.ORDENA = ss::kVerdadero;
-    cab.PROSUF = ")";
-    cab.TITULO = "Problems of Chemistry";
-    ss::Arbol arbol;
-    ss::ArbolItem raiz;
-    raiz.Tipo = 6;
-    arbol.Agrega(raiz);
-    for (int rutina = 1; rutina <= 20; ++rutina) {
-      ss::ArbolItem f;
-      f.Nivel = 2;
-      f.Tipo = 3;
-      f.ModuloFijo = "ANEU_QUIM_DIS";
-      f.Rutina = static_cast<int16_t>(rutina);
-      f.Marcado = true;
-      f.Cantidad1 = static_cast<int16_t>(problemas / 20);
-      f.Cantidad2 = 6;
-      arbol.Agrega(f);
-    }
-    ss::Arbol_to_Var(arbol, doc.col, gen.rnd);
-  }
-};
+using bench::Entorno;
 
 void BM_CrearColeccion500(benchmark::State& state) {
   Entorno e;
@@ -134,12 +97,3 @@ void BM_CargarConImagenes(benchmark::State& state) {
 BENCHMARK(BM_CargarConImagenes)->Arg(400)->Arg(4000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QGuiApplication app(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
-}

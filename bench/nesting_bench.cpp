@@ -3,7 +3,6 @@
 // the hidden canvas of pagination.
 #include <benchmark/benchmark.h>
 
-#include <QGuiApplication>
 
 #include <string>
 
@@ -65,12 +64,3 @@ BENCHMARK(BM_UnclosedRun)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_UnmatchedRun)->Unit(benchmark::kMillisecond);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QGuiApplication app(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
-}

@@ -3,7 +3,6 @@
 #include <benchmark/benchmark.h>
 
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QTemporaryDir>
@@ -13,47 +12,13 @@
 #include "typeset/motor.h"
 #include "typeset/salida.h"
 #include "worksheet/armado.h"
+#include "bench/hoja_bench.h"
 
 namespace {
 
-// A made worksheet of 500 problems of the gases, formulas and solutions
-// module, solutions after their problems, page numbers at the foot.
-struct Hoja {
-  ss::Documento doc;
-  ss::PlataformaMuda plataforma;
-  ss::Mensajes mensajes{SS_SOURCE_DIR};
-  ss::GenContext gen{&mensajes, ss::Aleatorio(2024)};
-  ss::Motor motor;
-  ss::CanvasQt oculta{nullptr};
-  ss::TextosVentana textos{SS_SOURCE_DIR, "MAI"};
-  ss::Sesion s{doc, plataforma, gen, motor, oculta, textos, ss::Carpetas{}};
-
-  Hoja() {
-    ss::ColeccionCab& cab = doc.col.cab;
-    cab.POSSOL = 1;
-    cab.POSNUMPAG = 9;
-    cab.PAGINI = 1;
-    cab.ORDENA = ss::kVerdadero;
-    cab.PROSUF = ")";
-    cab.TITULO = "Problems of Chemistry";
-    ss::Arbol arbol;
-    ss::ArbolItem raiz;
-    raiz.Tipo = 6;
-    arbol.Agrega(raiz);
-    for (int rutina = 1; rutina <= 20; ++rutina) {
-      ss::ArbolItem f;
-      f.Nivel = 2;
-      f.Tipo = 3;
-      f.ModuloFijo = "ANEU_QUIM_DIS";
-      f.Rutina = static_cast<int16_t>(rutina);
-      f.Marcado = true;
-      f.Cantidad1 = 25;
-      f.Cantidad2 = 6;
-      arbol.Agrega(f);
-    }
-    ss::Arbol_to_Var(arbol, doc.col, gen.rnd);
-    ss::CrearColeccion(s, 1);
-  }
+// The made worksheet of 500 problems.
+struct Hoja : bench::Entorno {
+  Hoja() { ss::CrearColeccion(s, 1); }
 
   // Draws a page as the command-line tool does: its text, then its number.
   ss::PintaPagina Pinta() {
@@ -105,12 +70,3 @@ void BM_PaginaEnImagen(benchmark::State& state) {
 BENCHMARK(BM_PaginaEnImagen)->Unit(benchmark::kMillisecond);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QGuiApplication app(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
-}
