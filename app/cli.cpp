@@ -246,12 +246,8 @@ int ComandoMarkup(const QStringList& args) {
   const QString out = a.Valor(QStringLiteral("o"));
   if (const QString porque = TipoDeSalida(out, false); !porque.isEmpty())
     return Usage(QStringLiteral("markup"), porque);
-  double zoom = 1;
-  if (a.Esta(QStringLiteral("zoom"))) {
-    const auto z = Zoom(a.Valor(QStringLiteral("zoom")));
-    if (!z) return Usage(QStringLiteral("markup"), QStringLiteral("--zoom takes a number from 0.1 to 8"));
-    zoom = *z;
-  }
+  const std::optional<double> zoom = Zoom(a);
+  if (!zoom) return Usage(QStringLiteral("markup"), QStringLiteral("--zoom takes a number from 0.1 to 8"));
   const std::string texto = ACp1252(a.Posicionales()[0], QStringLiteral("TEXT"));
   Servicios servicios;
   ss::Motor motor;
@@ -259,7 +255,7 @@ int ComandoMarkup(const QStringList& args) {
   const ss::PintaPagina pinta = [&](int, ss::Canvas& canvas) { motor.ComponerTexto(texto, 12, canvas); };
   QString error;
   const bool pdf = out.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive);
-  if (!(pdf ? ss::EscribePdf(out, 1, pinta, &error) : ss::EscribePng(out, zoom, 1, pinta, &error)))
+  if (!(pdf ? ss::EscribePdf(out, 1, pinta, &error) : ss::EscribePng(out, *zoom, 1, pinta, &error)))
     return Error(error);
   return 0;
 }

@@ -112,9 +112,10 @@ std::optional<uint64_t> Semilla(const QString& texto) {
   return static_cast<uint64_t>(v);
 }
 
-std::optional<double> Zoom(const QString& texto) {
+std::optional<double> Zoom(const Argumentos& a) {
+  if (!a.Esta(QStringLiteral("zoom"))) return 1.0;
   bool ok = false;
-  const double z = texto.toDouble(&ok);
+  const double z = a.Valor(QStringLiteral("zoom")).toDouble(&ok);
   if (!ok || !(z >= 0.1 && z <= 8)) return std::nullopt;
   return z;
 }

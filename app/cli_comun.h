@@ -78,7 +78,8 @@ QString TipoDeSalida(const QString& salida, bool paginasPng);
 // A whole number from lo to hi, or nothing.
 std::optional<int> Entero(const QString& texto, int lo, int hi);
 std::optional<uint64_t> Semilla(const QString& texto);
-std::optional<double> Zoom(const QString& texto);  // 0.1 to 8
+// The --zoom of a command, 0.1 to 8, 1 when it is not given; nothing when its value is out of range.
+std::optional<double> Zoom(const Argumentos& a);
 
 // Text of an option in the worksheet's single-byte character set. A
 // character it has no form for becomes "?", and a warning on stderr names the

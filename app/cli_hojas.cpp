@@ -208,12 +208,8 @@ int ComandoRender(const QStringList& args) {
   const QString salida = a.Valor(QStringLiteral("o"));
   if (const QString porque = TipoDeSalida(salida, true); !porque.isEmpty())
     return Usage(QStringLiteral("render"), porque);
-  double zoom = 1;
-  if (a.Esta(QStringLiteral("zoom"))) {
-    const auto z = Zoom(a.Valor(QStringLiteral("zoom")));
-    if (!z) return Usage(QStringLiteral("render"), QStringLiteral("--zoom takes a number from 0.1 to 8"));
-    zoom = *z;
-  }
+  const std::optional<double> zoom = Zoom(a);
+  if (!zoom) return Usage(QStringLiteral("render"), QStringLiteral("--zoom takes a number from 0.1 to 8"));
 
   Trabajo t;
   if (!t.Carga(a.Posicionales()[0])) return 1;
@@ -226,7 +222,7 @@ int ComandoRender(const QStringList& args) {
   QString fallo;
   const bool pdf = salida.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive);
   if (!(pdf ? ss::EscribePdf(salida, t.doc.numPaginas, pinta, &fallo)
-            : ss::EscribePngs(salida, zoom, t.doc.numPaginas, pinta, &fallo)))
+            : ss::EscribePngs(salida, *zoom, t.doc.numPaginas, pinta, &fallo)))
     return Error(fallo);
   ImprimeJson(QJsonDocument(QJsonObject{{QStringLiteral("pages"), t.doc.numPaginas}}), QJsonDocument::Compact);
   return 0;
