@@ -3,10 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <set>
-#include <string>
-#include <tuple>
-#include <vector>
 
 #include "modules/modulos.h"
 #include "problems/idioma.h"
@@ -65,12 +63,13 @@ std::string Etiqueta(const std::string& n) {
 
 TEST(ArmarBloques, BlocksFollowWhereTheSolutionsGo) {
   const std::string e1 = "#MARK=001&+B" + Etiqueta("1") + "&-B& First.&LF";
+  // The second problem's solution, the third's length, each block's Problema and problem of origin, the first texts.
   const struct {
     int possol;
-    std::string sol2;                 // the second problem's solution
-    std::size_t largo;                // of the third problem's statement
-    std::vector<int> problemas, origenes;  // Problema of each block, the problem it comes from
-    std::vector<std::string> textos;  // the first blocks' texts
+    std::string sol2;
+    std::size_t largo;
+    std::vector<int> problemas, origenes;
+    std::vector<std::string> textos;
   } casos[] = {
       {0, "S2&LF", 5, {1, 2, 3}, {1, 2, 3}, {e1 + "&LF"}},
       {1, "", 512, {1, 2, 3}, {1, 2, 3},
@@ -119,21 +118,6 @@ TEST(ArmarBloques, LabelsTakePrefixSuffixFirstNumberAndColour) {
     EXPECT_EQ(e.doc.bloques[2].Texto, "#MARK=003&+B" + std::string(fondo) +
                                           "&FF=REC,20,5.5:P7) &BC=Blanco:&FF=REC,20,5.5:&-B& x&LF&LF");
   }
-}
-
-TEST(ArmarBloques, AThousandBlocksKeepTheLastThreeDigitsOfTheirMarks) {
-  Entorno e(1);
-  for (int i = 0; i < 500; ++i) e.Agrega(std::string(600, 'w'), "s&LF");  // two blocks each
-  ArmarBloques(e.s, 0);
-  ASSERT_EQ(e.doc.bloques.size(), 1000u);
-  for (std::size_t i = 0; i < e.doc.bloques.size(); ++i) {
-    const std::string n = std::to_string((i + 1) % 1000);
-    ASSERT_EQ(e.doc.bloques[i].Texto.substr(0, 9), "#MARK=" + std::string(3 - n.size(), '0') + n);
-  }
-  // Every block is placed in block order, the one whose mark reads 000 too.
-  const std::vector<int> paginas = e.Campo(&Bloque::Pagina);
-  EXPECT_TRUE(std::is_sorted(paginas.begin(), paginas.end()) && paginas.front() == 1);
-  EXPECT_EQ(e.doc.bloques.back().Pagina, e.doc.numPaginas);
 }
 
 // A worksheet of real problems from the gases, formulas and solutions module.
@@ -192,6 +176,21 @@ void CompruebaPaginas(Entorno& e, std::set<int> cortados = {}) {
   }
 }
 
+TEST(ArmarBloques, AThousandBlocksKeepTheLastThreeDigitsOfTheirMarks) {
+  Entorno e(1);
+  for (int i = 0; i < 500; ++i) e.Agrega(std::string(600, 'w'), "s&LF");  // two blocks each
+  ArmarBloques(e.s, 0);
+  ASSERT_EQ(e.doc.bloques.size(), 1000u);
+  for (std::size_t i = 0; i < e.doc.bloques.size(); ++i) {
+    char marca[16];
+    std::snprintf(marca, sizeof marca, "#MARK=%03zu", (i + 1) % 1000);
+    ASSERT_EQ(e.doc.bloques[i].Texto.substr(0, 9), marca);
+  }
+  // Every block is placed in block order, the one whose mark reads 000 too.
+  const std::vector<int> paginas = e.Campo(&Bloque::Pagina);
+  EXPECT_TRUE(std::is_sorted(paginas.begin(), paginas.end()) && paginas.front() == 1 && paginas.back() == e.doc.numPaginas);
+}
+
 TEST(Paginar, RealProblemsFillWholePagesInOrder) {
   for (auto [possol, posnumpag, cuantos, titulo] : {std::tuple{1, 9, 280, "Problems of Chemistry"}, {0, 0, 280, ""},
                                                     {2, 1, 280, "T"}, {3, 11, 280, ""}, {1, 9, 105, ""}}) {
@@ -216,26 +215,20 @@ TEST(Paginar, TheNumbersFreeLineGoesByItsCodeAndPagesFillPastTheWindowOf49) {
     for (int i = 0; i < cuantos; ++i) e.Agrega("x", "");
     ArmarBloques(e.s, 0);
     CompruebaPaginas(e);
-    const std::vector<int> paginas = e.Campo(&Bloque::Pagina);
-    return static_cast<int>(std::count(paginas.begin(), paginas.end(), 1));
+    return static_cast<int>(std::count_if(e.doc.bloques.begin(), e.doc.bloques.end(), [](auto& b) { return b.Pagina == 1; }));
   };
   const int lleno = enPagina1(0, 400);
-  ASSERT_GT(lleno, 3 * 49);
-  ASSERT_LT(lleno, 400);
+  ASSERT_TRUE(lleno > 3 * 49 && lleno < 400) << lleno;
   for (int pie : {9, 8, 12}) EXPECT_EQ(enPagina1(pie, 400), lleno) << pie;
   for (int cabeza : {1, 3, 16}) EXPECT_LT(enPagina1(cabeza, 400), lleno) << cabeza;
   // The last page: what just fits without a number loses a block to the foot's line.
-  EXPECT_EQ(enPagina1(0, lleno - 1), lleno - 1);
-  EXPECT_EQ(enPagina1(9, lleno - 1), lleno - 2);
+  EXPECT_EQ(enPagina1(0, lleno - 1) * 1000 + enPagina1(9, lleno - 1), (lleno - 1) * 1000 + lleno - 2);
 }
 
 TEST(Paginar, ABlockTallerThanAPageIsCutOnAPageOfItsOwn) {
   std::string lineas;
   for (int i = 0; i < 120; ++i) lineas += "line " + std::to_string(i) + "&LF";
-  const struct {
-    int possol, donde, proini;
-    std::string alto, aviso;
-  } casos[] = {
+  const struct { int possol, donde, proini; std::string alto, aviso; } casos[] = {
       {0, 0, 1, lineas, "Problem 1 is taller than a page: it has page 1 to itself"},
       {0, 5, 1, lineas, "Problem 6 is taller than a page: it has page 2 to itself"},
       {3, 1, 10, lineas, "Problem 11 is taller than a page: it has page 2 to itself"},
@@ -260,9 +253,8 @@ TEST(Paginar, ProgressAndTheCurrentPageFollowTheHint) {
   for (int i = 0; i < 150; ++i) e.Agrega("Problem text.&LFSecond line.&LF", "Answer text.&LF");
   ArmarBloques(e.s, 0);
   ASSERT_GT(e.doc.numPaginas, 3);
-  std::vector<std::string> progreso;
-  for (int p = 1; p < e.doc.numPaginas; ++p) progreso.push_back("Page 1/" + std::to_string(p));
-  EXPECT_EQ(e.plataforma.progreso, progreso);
+  for (int p = 1; p < e.doc.numPaginas; ++p) EXPECT_EQ(e.plataforma.progreso.at(p - 1), "Page 1/" + std::to_string(p));
+  EXPECT_EQ(e.plataforma.progreso.size(), std::size_t(e.doc.numPaginas - 1));
   const int paginaDe120 = e.doc.bloques[119].Pagina;
   ASSERT_GT(paginaDe120, 1);
   for (int pista : {120, -120, 0}) {  // the sign is ignored; 0 keeps the current page
@@ -284,8 +276,7 @@ TEST(TextoPagina, TitleBlockBlocksAndTheFreeLineOfTheNumber) {
                                "&LF&-B&FN=Arial:&FS=10:Name:&FN=Times New Roman:&LF"
                                "&-B&FN=Arial:&FS=10:Only&FN=Times New Roman:&LF&FS=12:&LF";
   EXPECT_EQ(CabeceraTexto(ColeccionCab{}), "");
-  e.Agrega("One.&LF", "");
-  e.Agrega("Two.&LF", "");
+  for (const char* t : {"One.&LF", "Two.&LF"}) e.Agrega(t, "");
   for (int pos : {0, 9, 11, 1, 3}) {
     e.col().cab.POSNUMPAG = pos;
     ArmarBloques(e.s, 0);
@@ -307,15 +298,15 @@ TEST(Barajar, SwapsRecipesNotTexts) {
   Aleatorio rnd = Aleatorio::Guionado({0.0, 0.9, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.7});
   Barajar(col, rnd);
   EXPECT_EQ(rnd.Siguiente(), 0.7) << "NPROB + 1 rounds of two draws";
-  for (int i = 0; i < 3; ++i) {
+  for (int i = 0, k = 3; i < 3; ++i, --k) {
     const Problema& p = col.problemas[static_cast<std::size_t>(i)];
-    const int k = 3 - i;
     EXPECT_EQ(p.Modulo + p.Enunciado, "M" + std::to_string(k) + "E" + std::to_string(i + 1));
     EXPECT_EQ(std::vector<int>({p.Rutina, p.Semilla, p.NumVariante, p.Total, p.Orden, p.Cantidad}),
               std::vector<int>({k, 10 * k, 10 * k, 10 * k, 10 * k, 10 * k}));
   }
 }
 
+// The whole job holds AppBusy; a nested job leaves the outer one's count and controls alone.
 TEST(CrearColeccion, MakesTheTextsInOrderOrShuffledAndLeavesNoFile) {
   for (int16_t ordena : {kVerdadero, int16_t{0}}) {
     Entorno e(1);
@@ -325,6 +316,8 @@ TEST(CrearColeccion, MakesTheTextsInOrderOrShuffledAndLeavesNoFile) {
     e.doc.ruta = "/tmp/old.col";
     CrearColeccion(e.s, 1);
     EXPECT_TRUE(e.doc.ruta.isEmpty() && e.doc.Modificada && e.plataforma.titulos.back() == TituloApp());
+    EXPECT_TRUE(e.doc.AppBusy == 0 && e.plataforma.ocupado == std::vector<bool>({true, false}));
+    EXPECT_TRUE(e.plataforma.dejaCorrer > 30 && e.plataforma.appBusyMinimo >= 1) << "events ran while not busy";
     std::multiset<std::string> a, b;
     int mismos = 0;
     GenContext referencia(&MensajesReales(), Aleatorio(kSemilla));
@@ -339,6 +332,11 @@ TEST(CrearColeccion, MakesTheTextsInOrderOrShuffledAndLeavesNoFile) {
     }
     EXPECT_EQ(a, b);
     EXPECT_EQ(mismos == 30, ordena != 0);
+    e.plataforma.ocupado.clear();
+    std::tie(e.plataforma.appBusyMinimo, e.doc.AppBusy) = std::tuple(1 << 30, 1);  // an outer job is running
+    RecrearProblema(e.s, e.doc.col.problemas[0], 0, true);
+    EXPECT_TRUE(e.doc.AppBusy == 1 && e.plataforma.ocupado.empty()) << "the controls stay as the outer job set them";
+    EXPECT_GE(e.plataforma.appBusyMinimo, 2);
   }
   Entorno vacio;  // nothing without problems
   vacio.doc.ruta = "/tmp/kept.col";
@@ -375,22 +373,6 @@ TEST(Recrear, CommonOffsetsWrapOnceOneProblemOnRequestNothingWhileBusy) {
   EXPECT_TRUE(e.doc.bloques[0].Texto.find("old") != std::string::npos && !e.doc.Modificada) << "blocks not rebuilt";
   RecrearProblema(e.s, p, 1, true);
   EXPECT_TRUE(e.doc.bloques[0].Texto.find(p.Enunciado) != std::string::npos && e.doc.ruta.isEmpty());
-}
-
-TEST(AppBusy, HeldForTheWholeJobAndANestedJobLeavesTheOuterOne) {
-  Entorno e(2);
-  e.col().cab.ORDENA = kVerdadero;
-  LlenaConProblemasReales(e, 20);
-  CrearColeccion(e.s, 0);
-  EXPECT_EQ(e.doc.AppBusy, 0);
-  EXPECT_EQ(e.plataforma.ocupado, (std::vector<bool>{true, false}));
-  EXPECT_GT(e.plataforma.dejaCorrer, 20);
-  EXPECT_GE(e.plataforma.appBusyMinimo, 1) << "events ran while the document was not busy";
-  e.plataforma.ocupado.clear();
-  std::tie(e.plataforma.appBusyMinimo, e.doc.AppBusy) = std::tuple(1 << 30, 1);  // an outer job is running
-  RecrearProblema(e.s, e.doc.col.problemas[0], 0, true);
-  EXPECT_TRUE(e.doc.AppBusy == 1 && e.plataforma.ocupado.empty()) << "the controls stay as the outer job set them";
-  EXPECT_GE(e.plataforma.appBusyMinimo, 2);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <tuple>
 
 #include "problems/aleatorio.h"
@@ -23,23 +24,13 @@ TEST(ComandoProblema, ColumnsInTheirOrderPaddedAndCut) {
   };
   for (const auto& c : cases) {
     Problema p;
-    std::tie(p.Rutina, p.Semilla, p.NumVariante, p.Cantidad, p.Total, p.Orden) =
-        std::tie(c.rutina, c.semilla, c.variante, c.cantidad, c.total, c.orden);
+    std::tie(p.Rutina, p.Semilla, p.NumVariante, p.Cantidad, p.Total, p.Orden) = std::tie(c.rutina, c.semilla, c.variante, c.cantidad, c.total, c.orden);
     EXPECT_EQ(ComandoProblema(p), c.command);
   }
 }
 
 ArbolItem Fila(const char* modulo, int16_t rutina, bool marcado, int16_t c1, int16_t c2 = 0) {
-  ArbolItem f;
-  f.Nivel = 2;
-  f.ModuloFijo = modulo;
-  f.ModuloFijo.resize(80, ' ');
-  f.Rutina = rutina;
-  f.Marcado = marcado;
-  f.Cantidad1 = c1;
-  f.Cantidad2 = c2;
-  f.Tipo = 3;
-  return f;
+  return ArbolItem{2, false, false, "", "", rutina, std::string(modulo).append(80 - std::strlen(modulo), ' '), marcado, c1, c2, 0, 0, 3};
 }
 
 using Receta = std::tuple<std::string, int, int, int, int, int, int>;
@@ -91,7 +82,6 @@ TEST(ArbolToVar, CountersRunOnAndTheListStopsAtFiveHundred) {
 
 TEST(Arbol, EveryRowIsKeptAndTheNewRowIsHandedBack) {
   Arbol a;
-  EXPECT_EQ(a.Count(), 0);
   for (int i = 1; i <= 400; ++i) a.Agrega(ArbolItem{}).Rutina = static_cast<int16_t>(i);
   ASSERT_EQ(a.Count(), 400);
   EXPECT_EQ(a.filas[400].Rutina, 400);
