@@ -13,7 +13,6 @@
 #include <unistd.h>
 
 #include <functional>
-#include <tuple>
 
 #include "typeset/canvas_qt.h"
 
@@ -73,11 +72,9 @@ int Modo(const QString& ruta) {
   return ::stat(QFile::encodeName(ruta).constData(), &st) == 0 ? int(st.st_mode & 0777) : -1;
 }
 
+// n: generator, first counter, variant counter, items, total, order.
 Problema Prob(std::string modulo, std::vector<int16_t> n, std::string enu, std::string sol) {
-  Problema p;
-  std::tie(p.Modulo, p.Rutina, p.Semilla, p.NumVariante, p.Cantidad, p.Total, p.Orden, p.Enunciado,
-           p.Solucion) = std::tie(modulo, n[0], n[1], n[2], n[3], n[4], n[5], enu, sol);
-  return p;
+  return Problema{modulo, n[0], n[1], n[4], n[5], n[3], n[2], enu, sol};
 }
 
 void Pon(Coleccion& col, std::vector<Problema> ps) {
@@ -95,10 +92,7 @@ Coleccion Muestra() {
   return c;
 }
 
-std::string Campo8(std::size_t n) {
-  std::string s = std::to_string(n);
-  return s + std::string(8 - s.size(), ' ');
-}
+std::string Campo8(std::size_t n) { return (std::to_string(n) + "        ").substr(0, 8); }
 
 TEST(ColFile, WritesEveryItemByteForByteAndReadsItBack) {
   Banco a, b;
@@ -236,19 +230,13 @@ TEST(ColFile, AHostileOrCrowdedPictureDirectoryWritesOnlyWhatTheTextsName) {
 
   // A directory position past the end: no pictures, the text still loads.
   Banco b;
-  std::string fuera = t + dir + datos;
-  fuera.replace(fuera.find("#BINDIR(") + 8, 8, "99999999");
-  Escribe(b.Ruta("far.col"), fuera);
+  Escribe(b.Ruta("far.col"), (t + dir + datos).replace(t.find("#BINDIR(") + 8, 8, "99999999"));
   ASSERT_TRUE(b.Carga(b.Ruta("far.col")));
-  EXPECT_FALSE(QFileInfo::exists(b.s.carpetas.temporal));
-  EXPECT_EQ(b.doc.col.problemas[0].Solucion.substr(0, 8), "solution");
+  EXPECT_TRUE(!QFileInfo::exists(b.s.carpetas.temporal) && b.doc.col.problemas[0].Solucion.substr(0, 8) == "solution");
 }
 
 TEST(ColFile, AHeaderTextHoldingATagIsRefusedAndTheOldFileKept) {
-  const struct {
-    std::string ColeccionCab::*campo;
-    std::string texto, etiqueta;
-  } casos[] = {
+  const struct { std::string ColeccionCab::*campo; std::string texto, etiqueta; } casos[] = {
       {&ColeccionCab::TITULO, "#CABECERA)", "#CABECERA)"},
       {&ColeccionCab::TITULO, "Test #TITULO) x", "#TITULO)"},
       {&ColeccionCab::PROPRE, "#POSTI2)", "#POSTI2)"},
@@ -282,12 +270,8 @@ TEST(ColFile, AHeaderTextHoldingATagIsRefusedAndTheOldFileKept) {
 
 TEST(ColFile, FailedSavesKeepTheOldFileAndSayWhy) {
   const bool root = ::geteuid() == 0;  // the super-user is refused in /sys only
-  const struct {
-    std::string enunciado;
-    QString ruta;
-    std::string caja;  // the box begins so
-    bool guardarComo;  // Save As is offered
-  } casos[] = {
+  // The statement, the file, how the box begins and whether Save As is offered.
+  const struct { std::string enunciado; QString ruta; std::string caja; bool guardarComo; } casos[] = {
       {"#IMG('gone.gif'#IMG)", "t.col", "gone.gif\nThis picture of the worksheet was not found", false},
       {"x", "dir.col", "\n\nError = 57\nDevice I/O error", false},  // a folder in the way
       {"x", root ? "/sys/t.col" : "ro/t.col",
@@ -304,8 +288,7 @@ TEST(ColFile, FailedSavesKeepTheOldFileAndSayWhy) {
       ::chmod(QFile::encodeName(a.Ruta("ro")).constData(), 0555);
       const QString ruta = c.ruta.startsWith('/') ? c.ruta : a.Ruta(c.ruta);
       const std::string antes = Lee(ruta);
-      a.pl.exitoGuardarComo = exito;
-      a.doc.Modificada = true;
+      std::tie(a.pl.exitoGuardarComo, a.doc.Modificada) = std::tuple(exito, true);
       EXPECT_EQ(a.Guarda(ruta), c.guardarComo && exito);
       ::chmod(QFile::encodeName(a.Ruta("ro")).constData(), 0755);
       ASSERT_EQ(a.pl.criticos.size(), 1u);
@@ -354,8 +337,7 @@ TEST(ColFile, DamagedFilesEndInTheInvalidFileBoxAndKeepWhatTheReaderLeaves) {
     EXPECT_EQ(b.pl.avisos[0].find("64 MB") != std::string::npos, bytes.size() > 1000000);
     const std::size_t n = b.doc.col.problemas.size();
     EXPECT_EQ((b.doc.ruta.isEmpty() ? "- " : "path ") + std::to_string(n) + " " + (n ? b.doc.col.cab.PRETIT : ""), c.queda);
-    EXPECT_EQ(b.doc.col.cab.NPROB, static_cast<int32_t>(n));
-    EXPECT_EQ(b.doc.bloques.size(), n ? 5u : 0u);  // no rebuild ran
+    EXPECT_EQ(b.doc.col.cab.NPROB * 10 + b.doc.bloques.size(), n * 10 + (n ? 5u : 0u));  // no rebuild ran
     EXPECT_TRUE(n != 3 || b.doc.col.problemas[0].Solucion == "18 g");
     EXPECT_TRUE(!n || b.pl.titulos.empty()) << "the window still shows the old worksheet";
     EXPECT_EQ(b.doc.AppBusy, 0);
@@ -372,36 +354,27 @@ TEST(Carpetas, ScratchFolderIsPrivateSharedUnderALockAndLookupsFallBackToAnyCase
     UsoCarpetaTemporal uno;
     EXPECT_EQ(uno.Ruta(), propia);
     Escribe(propia + "/a.gif", "a");
-    {
-      UsoCarpetaTemporal dos;  // another user of the folder
-      QDir(propia).mkdir("sub");
-    }
+    std::make_unique<UsoCarpetaTemporal>(), QDir(propia).mkdir("sub");  // another user of the folder comes and goes
     EXPECT_EQ(Lee(propia + "/a.gif"), "a") << "kept while another user lives";
   }
-  EXPECT_EQ(QDir(propia).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name),
-            (QStringList{"sheetsmith.lock", "sub"}));
+  EXPECT_EQ(QDir(propia).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name).join(' '), "sheetsmith.lock sub");
   ASSERT_TRUE(QDir(propia).removeRecursively());
   ASSERT_TRUE(QFile::link(tmp.path() + "/elsewhere", propia));
   EXPECT_EQ(CarpetaTemporal(), propia + "-" + QString::number(::geteuid()));  // never a planted link
-  EXPECT_FALSE(CreaCarpetaTemporal(propia));
-  EXPECT_TRUE(UsoCarpetaTemporal(propia).Ruta().isEmpty());
+  EXPECT_TRUE(!CreaCarpetaTemporal(propia) && UsoCarpetaTemporal(propia).Ruta().isEmpty());
   EXPECT_FALSE(QFileInfo::exists(tmp.path() + "/elsewhere"));
   if (::geteuid() == 0) {  // another user's folder
-    QFile::remove(propia);
-    ASSERT_TRUE(QDir().mkdir(propia));
+    ASSERT_TRUE(QFile::remove(propia) && QDir().mkdir(propia));
     ASSERT_EQ(::chown(QFile::encodeName(propia).constData(), 65534, 65534), 0);
-    EXPECT_EQ(CarpetaTemporal(), propia + "-" + QString::number(::geteuid()));
-    EXPECT_FALSE(CreaCarpetaTemporal(propia));
+    EXPECT_TRUE(CarpetaTemporal() == propia + "-" + QString::number(::geteuid()) && !CreaCarpetaTemporal(propia));
   }
   if (antes.isNull()) qunsetenv("TMPDIR"); else qputenv("TMPDIR", antes);
 
   const QString dir = tmp.path() + "/pics";
   ASSERT_TRUE(QDir().mkdir(dir));
   for (const char* n : {"Atom.gif", "atom.GIF", "Ring.png"}) Escribe(dir + "/" + n, "x");
-  const std::pair<QString, QString> casos[] = {{"atom.GIF", "atom.GIF"}, {"Atom.gif", "Atom.gif"},
-                                               {"RING.PNG", "Ring.png"}, {"ring.gif", ""},
-                                               {"../pics/Ring.png", ""}, {"", ""}};
-  for (const auto& [busca, halla] : casos)
+  for (auto [busca, halla] : {std::pair<QString, QString>{"atom.GIF", "atom.GIF"}, {"Atom.gif", "Atom.gif"},
+                              {"RING.PNG", "Ring.png"}, {"ring.gif", ""}, {"../pics/Ring.png", ""}, {"", ""}})
     EXPECT_EQ(BuscaEnCarpeta(dir, busca), halla.isEmpty() ? "" : dir + "/" + halla) << busca.toStdString();
 }
 
