@@ -1,11 +1,8 @@
 #include "worksheet/ajustes.h"
-
 #include <gtest/gtest.h>
-
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-
 #include "tests/typeset/canvas_registro.h"
 #include "typeset/motor.h"
 

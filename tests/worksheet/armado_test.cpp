@@ -1,61 +1,17 @@
 #include "worksheet/armado.h"
-
 #include <gtest/gtest.h>
-
-#include <algorithm>
 #include <cstdio>
 #include <set>
-
 #include "modules/modulos.h"
-#include "problems/idioma.h"
 #include "problems/texto.h"
-#include "typeset/canvas_qt.h"
-#include "typeset/motor.h"
+#include "tests/worksheet/banco.h"
 
 namespace ss {
 namespace {
 
-// Remembers what the worksheet core told the windows.
-struct PlataformaRegistro : PlataformaMuda {
-  int dejaCorrer = 0, appBusyMinimo = 1 << 30;  // the lowest AppBusy seen while events ran
-  std::vector<bool> ocupado;
-  std::vector<std::string> progreso;
-  std::vector<QString> titulos;
-  const int* appBusy = nullptr;
-  void DejaCorrer() override { ++dejaCorrer, appBusyMinimo = std::min(appBusyMinimo, *appBusy); }
-  void Ocupado(bool o) override { ocupado.push_back(o); }
-  void Progreso(const std::string& t) override { progreso.push_back(t); }
-  void TituloVentana(const QString& t) override { titulos.push_back(t); }
-};
-
-Mensajes& MensajesReales() { static Mensajes m(SS_SOURCE_DIR); return m; }
-
-constexpr uint64_t kSemilla = 20240611;
-
-struct Entorno {
-  Documento doc;
-  PlataformaRegistro plataforma;
-  GenContext gen{&MensajesReales(), Aleatorio(kSemilla)};
-  Motor motor;
-  CanvasQt oculta{nullptr};
-  TextosVentana textos{SS_SOURCE_DIR, "MAI"};
-  Sesion s{doc, plataforma, gen, motor, oculta, textos, Carpetas{}};
-
-  explicit Entorno(int possol = 0, int posnumpag = 0) {
-    std::tie(plataforma.appBusy, doc.col.cab.POSSOL, doc.col.cab.POSNUMPAG) = std::tuple(&doc.AppBusy, possol, posnumpag);
-  }
-  Coleccion& col() { return doc.col; }
-  void Agrega(std::string enunciado, std::string solucion) {  // a module without generators
-    doc.col.problemas.push_back(Problema{"ANEU_QUIM_TER", 1, 0, 0, 0, 0, 0, enunciado, solucion});
-    doc.col.cab.NPROB = static_cast<int32_t>(doc.col.problemas.size());
-  }
-  int Compone(const std::string& texto) { return motor.ComponerTexto(texto, 12, oculta), motor.UltimaMarca; }
-  std::vector<int> Campo(int Bloque::*campo) const {
-    std::vector<int> v;
-    for (const Bloque& b : doc.bloques) v.push_back(b.*campo);
-    return v;
-  }
-};
+using test::Banco;
+using test::MensajesReales;
+using test::kSemilla;
 
 std::string Etiqueta(const std::string& n) {
   return "&BC= 255; 255; 255:&FF=REC,20,5.5:" + n + " &BC=Blanco:&FF=REC,20,5.5:";
@@ -86,7 +42,7 @@ TEST(ArmarBloques, BlocksFollowWhereTheSolutionsGo) {
   };
   for (const auto& c : casos) {
     SCOPED_TRACE(c.possol);
-    Entorno e(c.possol);
+    Banco e(c.possol);
     e.Agrega("First.&LF", "S1&LF");
     e.Agrega("Second.&LF", c.sol2);
     e.Agrega(std::string(c.largo, 'e'), "S3&LF");
@@ -100,7 +56,7 @@ TEST(ArmarBloques, BlocksFollowWhereTheSolutionsGo) {
   // Without any solution there is no heading either; a long solution too takes a block of its own.
   for (auto [possol, enu, sol, bloques] :
        {std::tuple{2, 1, 0, 1u}, {3, 1, 0, 1u}, {1, 10, 512, 1u}, {1, 10, 513, 2u}, {1, 512, 512, 1u}, {1, 2000, 0, 2u}}) {
-    Entorno e(possol);
+    Banco e(possol);
     e.Agrega(std::string(enu, 'e'), std::string(sol, 's'));
     ArmarBloques(e.s, 0);
     EXPECT_EQ(e.doc.bloques.size(), bloques) << possol << " " << enu << "/" << sol;
@@ -108,7 +64,7 @@ TEST(ArmarBloques, BlocksFollowWhereTheSolutionsGo) {
 }
 
 TEST(ArmarBloques, LabelsTakePrefixSuffixFirstNumberAndColour) {
-  Entorno e;
+  Banco e;
   std::tie(e.col().cab.PROINI, e.col().cab.PROPRE, e.col().cab.PROSUF) = std::make_tuple(5, "P", ")");
   for (int i = 0; i < 3; ++i) e.Agrega("x&LF", "");
   // The colour's three bytes, red lowest, each written with its blank.
@@ -121,7 +77,7 @@ TEST(ArmarBloques, LabelsTakePrefixSuffixFirstNumberAndColour) {
 }
 
 // A worksheet of real problems from the gases, formulas and solutions module.
-void LlenaConProblemasReales(Entorno& e, int cuantos) {
+void LlenaConProblemasReales(Banco& e, int cuantos) {
   Arbol arbol;
   arbol.Agrega(ArbolItem{}).Tipo = 6;
   int resto = cuantos;
@@ -136,7 +92,7 @@ void LlenaConProblemasReales(Entorno& e, int cuantos) {
 
 // The layout of the title block and some blocks, with the page number's free
 // line where the number's code puts it.
-std::string Trial(const Entorno& e, const std::vector<const Bloque*>& bloques) {
+std::string Trial(const Banco& e, const std::vector<const Bloque*>& bloques) {
   std::string t = CabeceraTexto(e.doc.col.cab);
   for (const Bloque* b : bloques) t += b->Texto;
   const int pos = e.doc.col.cab.POSNUMPAG;
@@ -146,7 +102,7 @@ std::string Trial(const Entorno& e, const std::vector<const Bloque*>& bloques) {
 // Pages are filled in block order, every block has a page, no page runs
 // over unless it holds one cut block alone, and no page could have taken
 // the first block of the next one too.
-void CompruebaPaginas(Entorno& e, std::set<int> cortados = {}) {
+void CompruebaPaginas(Banco& e, std::set<int> cortados = {}) {
   const std::vector<Bloque>& bl = e.doc.bloques;
   ASSERT_FALSE(bl.empty());
   for (std::size_t i = 1; i < bl.size(); ++i)
@@ -177,7 +133,7 @@ void CompruebaPaginas(Entorno& e, std::set<int> cortados = {}) {
 }
 
 TEST(ArmarBloques, AThousandBlocksKeepTheLastThreeDigitsOfTheirMarks) {
-  Entorno e(1);
+  Banco e(1);
   for (int i = 0; i < 500; ++i) e.Agrega(std::string(600, 'w'), "s&LF");  // two blocks each
   ArmarBloques(e.s, 0);
   ASSERT_EQ(e.doc.bloques.size(), 1000u);
@@ -195,7 +151,7 @@ TEST(Paginar, RealProblemsFillWholePagesInOrder) {
   for (auto [possol, posnumpag, cuantos, titulo] : {std::tuple{1, 9, 280, "Problems of Chemistry"}, {0, 0, 280, ""},
                                                     {2, 1, 280, "T"}, {3, 11, 280, ""}, {1, 9, 105, ""}}) {
     SCOPED_TRACE(possol);
-    Entorno e(possol, posnumpag);
+    Banco e(possol, posnumpag);
     std::tie(e.col().cab.TITULO, e.col().cab.ORDENA) = std::tuple(titulo, kVerdadero);
     LlenaConProblemasReales(e, cuantos);
     CrearColeccion(e.s, 0);
@@ -210,7 +166,7 @@ TEST(Paginar, TheNumbersFreeLineGoesByItsCodeAndPagesFillPastTheWindowOf49) {
   // rest fits; at the head it always takes a line. Set in small type, far
   // more than 49 blocks fit on a page.
   auto enPagina1 = [](int posnumpag, int cuantos) {
-    Entorno e(0, posnumpag);
+    Banco e(0, posnumpag);
     e.col().cab.PROPRE = "&FS=3:";
     for (int i = 0; i < cuantos; ++i) e.Agrega("x", "");
     ArmarBloques(e.s, 0);
@@ -236,7 +192,7 @@ TEST(Paginar, ABlockTallerThanAPageIsCutOnAPageOfItsOwn) {
   };
   for (const auto& c : casos) {
     SCOPED_TRACE(c.aviso);
-    Entorno e(c.possol, 9);
+    Banco e(c.possol, 9);
     e.col().cab.PROINI = c.proini;
     for (int i = 0; i < 10; ++i) e.Agrega(i == c.donde ? c.alto : "Short.&LF", "S&LF");
     ArmarBloques(e.s, 0);
@@ -249,12 +205,12 @@ TEST(Paginar, ABlockTallerThanAPageIsCutOnAPageOfItsOwn) {
 }
 
 TEST(Paginar, ProgressAndTheCurrentPageFollowTheHint) {
-  Entorno e(1);
+  Banco e(1);
   for (int i = 0; i < 150; ++i) e.Agrega("Problem text.&LFSecond line.&LF", "Answer text.&LF");
   ArmarBloques(e.s, 0);
   ASSERT_GT(e.doc.numPaginas, 3);
-  for (int p = 1; p < e.doc.numPaginas; ++p) EXPECT_EQ(e.plataforma.progreso.at(p - 1), "Page 1/" + std::to_string(p));
-  EXPECT_EQ(e.plataforma.progreso.size(), std::size_t(e.doc.numPaginas - 1));
+  for (int p = 1; p < e.doc.numPaginas; ++p) EXPECT_EQ(e.pl.progreso.at(p - 1), "Page 1/" + std::to_string(p));
+  EXPECT_EQ(e.pl.progreso.size(), std::size_t(e.doc.numPaginas - 1));
   const int paginaDe120 = e.doc.bloques[119].Pagina;
   ASSERT_GT(paginaDe120, 1);
   for (int pista : {120, -120, 0}) {  // the sign is ignored; 0 keeps the current page
@@ -267,7 +223,7 @@ TEST(Paginar, ProgressAndTheCurrentPageFollowTheHint) {
 }
 
 TEST(TextoPagina, TitleBlockBlocksAndTheFreeLineOfTheNumber) {
-  Entorno e;
+  Banco e;
   e.col().cab.POSTI2 = "Only";
   EXPECT_EQ(CabeceraTexto(e.col().cab), "&-B&FN=Arial:&FS=10:Only&FN=Times New Roman:&LF&FS=12:&LF");
   std::tie(e.col().cab.TITULO, e.col().cab.PRETIT, e.col().cab.POSTI1) = std::tie("Gases", "School", "Name:");
@@ -309,15 +265,15 @@ TEST(Barajar, SwapsRecipesNotTexts) {
 // The whole job holds AppBusy; a nested job leaves the outer one's count and controls alone.
 TEST(CrearColeccion, MakesTheTextsInOrderOrShuffledAndLeavesNoFile) {
   for (int16_t ordena : {kVerdadero, int16_t{0}}) {
-    Entorno e(1);
+    Banco e(1);
     e.col().cab.ORDENA = ordena;
     LlenaConProblemasReales(e, 30);
     const std::vector<Problema> antes = e.doc.col.problemas;
     e.doc.ruta = "/tmp/old.col";
     CrearColeccion(e.s, 1);
-    EXPECT_TRUE(e.doc.ruta.isEmpty() && e.doc.Modificada && e.plataforma.titulos.back() == TituloApp());
-    EXPECT_TRUE(e.doc.AppBusy == 0 && e.plataforma.ocupado == std::vector<bool>({true, false}));
-    EXPECT_TRUE(e.plataforma.dejaCorrer > 30 && e.plataforma.appBusyMinimo >= 1) << "events ran while not busy";
+    EXPECT_TRUE(e.doc.ruta.isEmpty() && e.doc.Modificada && e.pl.titulos.back() == TituloApp());
+    EXPECT_TRUE(e.doc.AppBusy == 0 && e.pl.ocupado == std::vector<bool>({true, false}));
+    EXPECT_TRUE(e.pl.dejaCorrer > 30 && e.pl.appBusyMinimo >= 1) << "events ran while not busy";
     std::multiset<std::string> a, b;
     int mismos = 0;
     GenContext referencia(&MensajesReales(), Aleatorio(kSemilla));
@@ -332,20 +288,20 @@ TEST(CrearColeccion, MakesTheTextsInOrderOrShuffledAndLeavesNoFile) {
     }
     EXPECT_EQ(a, b);
     EXPECT_EQ(mismos == 30, ordena != 0);
-    e.plataforma.ocupado.clear();
-    std::tie(e.plataforma.appBusyMinimo, e.doc.AppBusy) = std::tuple(1 << 30, 1);  // an outer job is running
+    e.pl.ocupado.clear();
+    std::tie(e.pl.appBusyMinimo, e.doc.AppBusy) = std::tuple(1 << 30, 1);  // an outer job is running
     RecrearProblema(e.s, e.doc.col.problemas[0], 0, true);
-    EXPECT_TRUE(e.doc.AppBusy == 1 && e.plataforma.ocupado.empty()) << "the controls stay as the outer job set them";
-    EXPECT_GE(e.plataforma.appBusyMinimo, 2);
+    EXPECT_TRUE(e.doc.AppBusy == 1 && e.pl.ocupado.empty()) << "the controls stay as the outer job set them";
+    EXPECT_GE(e.pl.appBusyMinimo, 2);
   }
-  Entorno vacio;  // nothing without problems
+  Banco vacio;  // nothing without problems
   vacio.doc.ruta = "/tmp/kept.col";
   CrearColeccion(vacio.s, 1);
-  EXPECT_TRUE(vacio.doc.ruta == "/tmp/kept.col" && vacio.plataforma.ocupado.empty());
+  EXPECT_TRUE(vacio.doc.ruta == "/tmp/kept.col" && vacio.pl.ocupado.empty());
 }
 
 TEST(Recrear, CommonOffsetsWrapOnceOneProblemOnRequestNothingWhileBusy) {
-  Entorno e;
+  Banco e;
   const int semillas[] = {898, 899, 900, 0, 450}, variantes[] = {8998, 8999, 9000, 0, 4000};
   for (int i = 0; i < 5; ++i) {
     e.Agrega("x", "y");  // a missing routine's notice: no draws of its own

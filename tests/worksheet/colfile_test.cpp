@@ -1,61 +1,18 @@
 #include "worksheet/colfile.h"
-
 #include <gtest/gtest.h>
-
 #include <QColor>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
-#include <QTemporaryDir>
-
 #include <sys/stat.h>
 #include <unistd.h>
-
 #include <functional>
-
-#include "typeset/canvas_qt.h"
+#include "tests/worksheet/banco.h"
 
 namespace ss {
 namespace {
 
-struct PlataformaGrabadora : PlataformaMuda {
-  std::vector<std::string> avisos, criticos;
-  std::vector<QString> titulos, recientes;
-  std::vector<bool> estados;
-  bool exitoGuardarComo = false;
-  const int* busy = nullptr;
-  int busyEnGuardarComo = -1;  // AppBusy when Save As was offered
-  void Aviso(const std::string& t) override { avisos.push_back(t); }
-  void Critico(const std::string& t) override { criticos.push_back(t); }
-  void TituloVentana(const QString& t) override { titulos.push_back(t); }
-  void Reciente(const QString& r) override { recientes.push_back(r); }
-  void EstadoDocumento(bool a) override { estados.push_back(a); }
-  bool GuardarComo() override { return busyEnGuardarComo = *busy, exitoGuardarComo; }
-};
-
-// One run of the program: its own program folder (with img/), scratch folder
-// and folder of worksheets, all temporary.
-struct Banco {
-  QTemporaryDir programa, raiz, ficheros;
-  Documento doc;
-  PlataformaGrabadora pl;
-  GenContext gen;
-  Motor motor;
-  CanvasQt oculta{nullptr};
-  TextosVentana textos{SS_SOURCE_DIR, "MAI"};
-  Sesion s{doc, pl, gen, motor, oculta, textos, Carpetas{}};
-
-  Banco() {
-    textos.LoadIdioma();
-    QDir(programa.path()).mkdir("img");
-    std::tie(s.carpetas.programa, s.carpetas.temporal, pl.busy) = std::tuple(programa.path(), raiz.path() + "/lftemp", &doc.AppBusy);
-  }
-  QString Ruta(const QString& nombre) const { return ficheros.path() + "/" + nombre; }
-  QString Temp(const QString& nombre) const { return s.carpetas.temporal + "/" + nombre; }
-  bool Guarda(const QString& ruta) { return doc.ruta = ruta, GuardarColeccion(s); }
-  bool Carga(const QString& ruta) { return doc.ruta = ruta, CargarColeccion(s); }
-};
+using test::Banco;
 
 std::string Lee(const QString& ruta) {
   QFile f(ruta);
