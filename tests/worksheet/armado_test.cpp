@@ -20,13 +20,7 @@ std::string Etiqueta(const std::string& n) {
 TEST(ArmarBloques, BlocksFollowWhereTheSolutionsGo) {
   const std::string e1 = "#MARK=001&+B" + Etiqueta("1") + "&-B& First.&LF";
   // The second problem's solution, the third's length, each block's Problema and problem of origin, the first texts.
-  const struct {
-    int possol;
-    std::string sol2;
-    std::size_t largo;
-    std::vector<int> problemas, origenes;
-    std::vector<std::string> textos;
-  } casos[] = {
+  const struct { int possol; std::string sol2; std::size_t largo; std::vector<int> problemas, origenes; std::vector<std::string> textos; } casos[] = {
       {0, "S2&LF", 5, {1, 2, 3}, {1, 2, 3}, {e1 + "&LF"}},
       {1, "", 512, {1, 2, 3}, {1, 2, 3},
        {e1 + "&+IAnswer&-I:& S1&LF&LF",
@@ -43,9 +37,8 @@ TEST(ArmarBloques, BlocksFollowWhereTheSolutionsGo) {
   for (const auto& c : casos) {
     SCOPED_TRACE(c.possol);
     Banco e(c.possol);
-    e.Agrega("First.&LF", "S1&LF");
-    e.Agrega("Second.&LF", c.sol2);
-    e.Agrega(std::string(c.largo, 'e'), "S3&LF");
+    for (auto [enu, sol] : {std::pair{std::string("First.&LF"), std::string("S1&LF")}, {"Second.&LF", c.sol2}, {std::string(c.largo, 'e'), "S3&LF"}})
+      e.Agrega(enu, sol);
     e.doc.ruta = "/tmp/kept.col";
     ArmarBloques(e.s, 0);
     EXPECT_EQ(e.Campo(&Bloque::Problema), c.problemas);

@@ -11,10 +11,7 @@ namespace ss {
 namespace {
 
 TEST(ComandoProblema, ColumnsInTheirOrderPaddedAndCut) {
-  struct Case {
-    int16_t rutina, semilla, variante, cantidad, total, orden;
-    const char* command;
-  } cases[] = {
+  struct { int16_t rutina, semilla, variante, cantidad, total, orden; const char* command; } cases[] = {
       {7, 45, 120, 0, 3, 1, "0070450120000301"},
       {7, 1001, 120, 0, 3, 1, "0070010120000301"},  // the first counter loses its high digit
       {15, 0, 0, 1, 1, 2, "0150000000010102"},
@@ -88,10 +85,7 @@ TEST(Arbol, EveryRowIsKeptAndTheNewRowIsHandedBack) {
 }
 
 TEST(ProcesaCommand, ReadsOnePathOrQuotedWorksheets) {
-  struct Case {
-    QString command;
-    QStringList files;
-  } cases[] = {
+  struct { QString command; QStringList files; } cases[] = {
       {"", {}},
       {"    ", {}},
       {"  /home/t/my sheet.col  ", {"/home/t/my sheet.col"}},
