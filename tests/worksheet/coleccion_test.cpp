@@ -1,19 +1,17 @@
 #include "worksheet/coleccion.h"
-
+#include "worksheet/commands.h"
+#include "worksheet/temario.h"
 #include <gtest/gtest.h>
-
+#include <cstring>
 #include <tuple>
-
 #include "problems/aleatorio.h"
+#include "problems/texto.h"
 
 namespace ss {
 namespace {
 
 TEST(ComandoProblema, ColumnsInTheirOrderPaddedAndCut) {
-  struct Case {
-    int16_t rutina, semilla, variante, cantidad, total, orden;
-    const char* command;
-  } cases[] = {
+  struct { int16_t rutina, semilla, variante, cantidad, total, orden; const char* command; } cases[] = {
       {7, 45, 120, 0, 3, 1, "0070450120000301"},
       {7, 1001, 120, 0, 3, 1, "0070010120000301"},  // the first counter loses its high digit
       {15, 0, 0, 1, 1, 2, "0150000000010102"},
@@ -23,23 +21,13 @@ TEST(ComandoProblema, ColumnsInTheirOrderPaddedAndCut) {
   };
   for (const auto& c : cases) {
     Problema p;
-    std::tie(p.Rutina, p.Semilla, p.NumVariante, p.Cantidad, p.Total, p.Orden) =
-        std::tie(c.rutina, c.semilla, c.variante, c.cantidad, c.total, c.orden);
+    std::tie(p.Rutina, p.Semilla, p.NumVariante, p.Cantidad, p.Total, p.Orden) = std::tie(c.rutina, c.semilla, c.variante, c.cantidad, c.total, c.orden);
     EXPECT_EQ(ComandoProblema(p), c.command);
   }
 }
 
 ArbolItem Fila(const char* modulo, int16_t rutina, bool marcado, int16_t c1, int16_t c2 = 0) {
-  ArbolItem f;
-  f.Nivel = 2;
-  f.ModuloFijo = modulo;
-  f.ModuloFijo.resize(80, ' ');
-  f.Rutina = rutina;
-  f.Marcado = marcado;
-  f.Cantidad1 = c1;
-  f.Cantidad2 = c2;
-  f.Tipo = 3;
-  return f;
+  return ArbolItem{2, false, false, "", "", rutina, std::string(modulo).append(80 - std::strlen(modulo), ' '), marcado, c1, c2, 0, 0, 3};
 }
 
 using Receta = std::tuple<std::string, int, int, int, int, int, int>;
@@ -91,10 +79,109 @@ TEST(ArbolToVar, CountersRunOnAndTheListStopsAtFiveHundred) {
 
 TEST(Arbol, EveryRowIsKeptAndTheNewRowIsHandedBack) {
   Arbol a;
-  EXPECT_EQ(a.Count(), 0);
   for (int i = 1; i <= 400; ++i) a.Agrega(ArbolItem{}).Rutina = static_cast<int16_t>(i);
   ASSERT_EQ(a.Count(), 400);
   EXPECT_EQ(a.filas[400].Rutina, 400);
+}
+
+TEST(ProcesaCommand, ReadsOnePathOrQuotedWorksheets) {
+  struct { QString command; QStringList files; } cases[] = {
+      {"", {}},
+      {"    ", {}},
+      {"  /home/t/my sheet.col  ", {"/home/t/my sheet.col"}},
+      {"/home/t/notes.txt", {"/home/t/notes.txt"}},  // one unquoted path: no test of its ending
+      {"\"/a/one.col\"", {"/a/one.col"}},
+      {"\"/a/one.col\" \"/a/two.COL\"", {"/a/one.col", "/a/two.COL"}},
+      {"\" /a/spaced name.Col \"", {"/a/spaced name.Col"}},
+      {"\"/a/notes.txt\" \"/a/two.col\"", {"/a/two.col"}},   // not a worksheet: skipped
+      {"\"/a/one.col\" \"/a/unclosed.col", {"/a/one.col"}},  // the broken piece ends the reading
+      {"\"\"", {}},
+      {"\"", {}},
+      {"\"a.col\"\"b.col\"", {"a.col", "b.col"}},
+      {"\"\t/a/tab.col\"", {"\t/a/tab.col"}},                // only blanks are trimmed
+  };
+  for (const auto& c : cases) EXPECT_EQ(ProcesaCommand(c.command), c.files) << c.command.toStdString();
+  QString command;  // the first sixteen of seventeen
+  for (int i = 1; i <= 17; ++i) command += QStringLiteral("\"/w/s%1.col\" ").arg(i);
+  const QStringList files = ProcesaCommand(command);
+  EXPECT_EQ(QStringList({files.size() == 16 ? "16" : "?", files.front(), files.back()}),
+            QStringList({"16", "/w/s1.col", "/w/s16.col"}));
+}
+
+TEST(TextoComando, OneArgumentStandsSeveralAreQuoted) {
+  EXPECT_EQ(TextoComando({}), "");
+  EXPECT_EQ(TextoComando({"/a/my sheet.col"}), "/a/my sheet.col");
+  EXPECT_EQ(TextoComando({"/a/x.col", "/b/y z.col"}), "\"/a/x.col\" \"/b/y z.col\"");
+  // Arguments from a shell reach the same files as a quoted command text.
+  EXPECT_EQ(ProcesaCommand(TextoComando({"/a/x.col", "/b/notes.txt", "/b/y z.col"})),
+            QStringList({"/a/x.col", "/b/y z.col"}));
+  EXPECT_EQ(ProcesaCommand(TextoComando({"/a/notes.txt"})), QStringList({"/a/notes.txt"}));
+}
+
+TEST(Drop, TheFirstFileDecidesTheDragTheDropKeepsWorksheets) {
+  EXPECT_TRUE(AceptaArrastre({"/a/x.COL", "/a/y.png"}));
+  EXPECT_FALSE(AceptaArrastre({"/a/y.png", "/a/x.col"}));
+  EXPECT_FALSE(AceptaArrastre({}));
+  EXPECT_FALSE(AceptaArrastre({"col"}));
+  EXPECT_EQ(FicherosSoltados({"/a/1.col", "/a/p.png", "/a/2.Col", "/a/3.col"}),
+            QStringList({"/a/1.col", "/a/2.Col", "/a/3.col"}));
+  QStringList many;
+  for (int i = 0; i < 20; ++i) many << QStringLiteral("/d/%1.col").arg(i);
+  EXPECT_EQ(FicherosSoltados(many).size(), 16);
+}
+
+
+// The topic tree of a subject and the list of subjects, from catalogue records.
+// One catalogue entry: the module, then the fixed-width record.
+std::string Entrada(const std::string& modulo, const std::string& ordinales, std::string asignatura, std::string tema,
+                    std::string subtema = "", char nivel = '5', int rutina = 0, int maxItems = 0, std::string ayuda = "") {
+  for (auto [campo, ancho] : {std::pair{&asignatura, 65}, {&tema, 80}, {&subtema, 80}, {&ayuda, 160}}) campo->resize(ancho, ' ');
+  return modulo + ":" + ordinales + asignatura + tema + subtema + nivel + (std::to_string(1000 + rutina) + std::to_string(1000 + maxItems)).substr(1).erase(3, 1) + ayuda;
+}
+
+const std::vector<std::string> kCatalogo = {
+    Entrada("ANEU_QUIM_GAS", "760020", "Chemistry ", "Gases", "Ideal gas", '3', 9, 0, "&D2Use PV = nRT."),
+    Entrada("ANEU_QUIM_GAS", "760000", "Chemistry", "Gases"),
+    Entrada("ANEU_QUIM_UNI", "750010", "Chemistry", "Units", "@Units of mass", '2', 11, 8, "&D1Convert."),
+    Entrada("ANEU_QUIM_UNI", "750000", "Chemistry", "Units"),
+    Entrada("ANEU_QUIM_UNI", "750000", "CHEMISTRY", "UNITS"),  // the same heading from another module
+    Entrada("ANEU_QUIM_UNI", "750020", "chemistry", "Units", "Theory of units", '4', 12),
+    Entrada("ANEU_QUIM_UNI", "750030", "Chemistry", "Units", "Quick questions", '1', 13, 20),
+    Entrada("AMAT_ALG", "100000", "Mathematics", "Algebra"),
+    Entrada("AMAT_ALG", "100010", "Mathematics", "Algebra", "Linear equations", '2', 1, 10),
+    Entrada("AFIS_CIN", "200010", "Physics", "Kinematics", "Speed", '3', 2),
+    Entrada("AGEO", "300010", "Geology", "Rocks", "Minerals", '1', 3),
+};
+
+TEST(Temario, TheTreeOfASubjectInTopicOrder) {
+  std::string nombre;
+  const Arbol arbol = ArbolDeAsignatura(kCatalogo, "  CHEMISTRY ", kTiposPorDefecto, &nombre);
+  EXPECT_EQ(nombre, "CHEMISTRY");  // the spelling of the first record in topic order
+  // Level, kind, name, generator, most items, module and description: the theory
+  // row is left out, the repeated heading kept once and the "@" of a subtopic dropped.
+  using Fila = std::tuple<int, int, std::string, int, int, std::string, std::string>;
+  const std::vector<Fila> esperadas = {{0, 6, "CHEMISTRY", 0, 0, "", ""},
+                                       {1, 5, "UNITS", 0, 0, "", ""},
+                                       {2, 2, "Units of mass", 11, 8, "ANEU_QUIM_UNI", "&D1Convert."},
+                                       {2, 1, "Quick questions", 13, 20, "ANEU_QUIM_UNI", ""},
+                                       {1, 5, "Gases", 0, 0, "", ""},
+                                       {2, 3, "Ideal gas", 9, 0, "ANEU_QUIM_GAS", "&D2Use PV = nRT."}};
+  std::vector<Fila> filas;
+  for (const ArbolItem& f : std::vector(arbol.filas.begin() + 1, arbol.filas.end()))
+    filas.emplace_back(f.Nivel, f.Tipo, f.Nombre, f.Rutina, f.MaxCantidad2, std::string(Trim(f.ModuloFijo)), f.Ayuda);
+  EXPECT_EQ(filas, esperadas);
+  std::vector<std::string> items;  // only the kinds asked for: problems and theory
+  for (const ArbolItem& f : ArbolDeAsignatura(kCatalogo, "chemistry", {false, false, true, true}).filas)
+    if (f.Nivel == 2) items.push_back(f.Nombre);
+  EXPECT_EQ(items, (std::vector<std::string>{"Theory of units", "Ideal gas"}));
+  EXPECT_EQ(ArbolDeAsignatura(kCatalogo, "Chem").Count() + ArbolDeAsignatura({"no colon here"}, "").Count(), 0);
+}
+
+TEST(Temario, SubjectsInTheOrderOfTheWizardsList) {
+  using V = std::vector<std::string>;
+  EXPECT_EQ(AsignaturasDelCatalogo(kCatalogo, nullptr), (V{"Geology", "Mathematics", "Physics", "Chemistry"}));
+  const V silabo = {"physics", "Astronomy", " Chemistry"};
+  EXPECT_EQ(AsignaturasDelCatalogo(kCatalogo, &silabo), (V{"Physics", "Chemistry"}));
 }
 
 }  // namespace

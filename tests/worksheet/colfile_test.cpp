@@ -1,65 +1,18 @@
 #include "worksheet/colfile.h"
-
 #include <gtest/gtest.h>
-
 #include <QColor>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
-#include <QTemporaryDir>
-
 #include <sys/stat.h>
 #include <unistd.h>
-
 #include <functional>
-#include <tuple>
-
-#include "typeset/canvas_qt.h"
+#include "tests/worksheet/banco.h"
 
 namespace ss {
 namespace {
 
-class PlataformaGrabadora : public PlataformaMuda {
- public:
-  std::vector<std::string> avisos, criticos;
-  std::vector<QString> titulos, recientes;
-  std::vector<bool> estados;
-  bool exitoGuardarComo = false;
-  const int* busy = nullptr;
-  int busyEnGuardarComo = -1;  // AppBusy when Save As was offered
-  void Aviso(const std::string& t) override { avisos.push_back(t); }
-  void Critico(const std::string& t) override { criticos.push_back(t); }
-  void TituloVentana(const QString& t) override { titulos.push_back(t); }
-  void Reciente(const QString& r) override { recientes.push_back(r); }
-  void EstadoDocumento(bool a) override { estados.push_back(a); }
-  bool GuardarComo() override { return busyEnGuardarComo = *busy, exitoGuardarComo; }
-};
-
-// One run of the program: its own program folder (with img/), scratch folder
-// and folder of worksheets, all temporary.
-struct Banco {
-  QTemporaryDir programa, raiz, ficheros;
-  Documento doc;
-  PlataformaGrabadora pl;
-  GenContext gen;
-  Motor motor;
-  CanvasQt oculta{nullptr};
-  TextosVentana textos{SS_SOURCE_DIR, "MAI"};
-  Sesion s{doc, pl, gen, motor, oculta, textos, Carpetas{}};
-
-  Banco() {
-    textos.LoadIdioma();
-    QDir(programa.path()).mkdir("img");
-    s.carpetas.programa = programa.path();
-    s.carpetas.temporal = raiz.path() + "/lftemp";
-    pl.busy = &doc.AppBusy;
-  }
-  QString Ruta(const QString& nombre) const { return ficheros.path() + "/" + nombre; }
-  QString Temp(const QString& nombre) const { return s.carpetas.temporal + "/" + nombre; }
-  bool Guarda(const QString& ruta) { doc.ruta = ruta; return GuardarColeccion(s); }
-  bool Carga(const QString& ruta) { doc.ruta = ruta; return CargarColeccion(s); }
-};
+using test::Banco;
 
 std::string Lee(const QString& ruta) {
   QFile f(ruta);
@@ -68,15 +21,17 @@ std::string Lee(const QString& ruta) {
 
 void Escribe(const QString& ruta, const std::string& bytes) {
   QFile f(ruta);
-  ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-  f.write(bytes.data(), static_cast<qint64>(bytes.size()));
+  ASSERT_TRUE(f.open(QIODevice::WriteOnly) && f.write(bytes.data(), qint64(bytes.size())) == qint64(bytes.size()));
 }
 
+int Modo(const QString& ruta) {
+  struct stat st {};
+  return ::stat(QFile::encodeName(ruta).constData(), &st) == 0 ? int(st.st_mode & 0777) : -1;
+}
+
+// n: generator, first counter, variant counter, items, total, order.
 Problema Prob(std::string modulo, std::vector<int16_t> n, std::string enu, std::string sol) {
-  Problema p;
-  std::tie(p.Modulo, p.Rutina, p.Semilla, p.NumVariante, p.Cantidad, p.Total, p.Orden, p.Enunciado,
-           p.Solucion) = std::tie(modulo, n[0], n[1], n[2], n[3], n[4], n[5], enu, sol);
-  return p;
+  return Problema{modulo, n[0], n[1], n[4], n[5], n[3], n[2], enu, sol};
 }
 
 void Pon(Coleccion& col, std::vector<Problema> ps) {
@@ -87,24 +42,14 @@ void Pon(Coleccion& col, std::vector<Problema> ps) {
 // A worksheet touching every header field, with Windows-1252 text.
 Coleccion Muestra() {
   Coleccion c;
-  c.cab.PAGINI = -3;
-  c.cab.POSNUMPAG = 9;
-  c.cab.PROPRE = "Problem ";
-  c.cab.PROSUF = ".";
-  c.cab.PROINI = 9999;
-  c.cab.POSSOL = 2;
-  c.cab.PRETIT = "   ";
-  c.cab.POSTI1 = "Caf\xE9 \x80 \x96 group";
-  c.cab.ORDENA = kVerdadero;
+  std::tie(c.cab.PAGINI, c.cab.POSNUMPAG, c.cab.PROINI, c.cab.POSSOL, c.cab.ORDENA) = std::tuple(-3, 9, 9999, 2, kVerdadero);
+  std::tie(c.cab.PROPRE, c.cab.PROSUF, c.cab.PRETIT, c.cab.POSTI1) = std::tuple("Problem ", ".", "   ", "Caf\xE9 \x80 \x96 group");
   Pon(c, {Prob("ANEU_QUIM_DIS", {7, 45, 120, 0, 3, 1}, "Mass of &H_2O?", "18 g"),
           Prob("ANEU_QUIM_EGA", {12, 1001, 9001, 26, 2, 2}, "", "")});
   return c;
 }
 
-std::string Campo8(std::size_t n) {
-  std::string s = std::to_string(n);
-  return s + std::string(8 - s.size(), ' ');
-}
+std::string Campo8(std::size_t n) { return (std::to_string(n) + "        ").substr(0, 8); }
 
 TEST(ColFile, WritesEveryItemByteForByteAndReadsItBack) {
   Banco a, b;
@@ -118,9 +63,7 @@ TEST(ColFile, WritesEveryItemByteForByteAndReadsItBack) {
   ASSERT_TRUE(a.Guarda(a.Ruta("link.col")));
   EXPECT_FALSE(a.doc.Modificada);
   EXPECT_TRUE(QFileInfo(a.Ruta("link.col")).isSymLink());
-  struct stat st {};
-  ASSERT_EQ(::stat(QFile::encodeName(a.Ruta("SHEET.COL")).constData(), &st), 0);
-  EXPECT_EQ(st.st_mode & 0777, 0600u);
+  EXPECT_EQ(Modo(a.Ruta("SHEET.COL")), 0600);
   // Blank optional lines are not written.
   EXPECT_EQ(Lee(a.Ruta("SHEET.COL")),
             "#CABECERA(#PROPARAM(ANEU_QUIM_DIS" + std::string(67, ' ') + "0070450120000301" +
@@ -142,10 +85,8 @@ TEST(ColFile, WritesEveryItemByteForByteAndReadsItBack) {
   ASSERT_TRUE(b.Guarda(b.Ruta("two.col")));
   EXPECT_EQ(Lee(b.Ruta("two.col")), Lee(a.Ruta("SHEET.COL")));
   EXPECT_EQ(b.pl.titulos, std::vector<QString>{TituloApp() + "  -  SHEET.COL"});
-  EXPECT_EQ(b.pl.recientes, std::vector<QString>{a.Ruta("SHEET.COL")});
-  EXPECT_EQ(b.pl.estados, std::vector<bool>{true});
-  b.doc.col.cab.ORDENA = 0;
-  b.doc.col.cab.PAGINI = 0;
+  EXPECT_TRUE(b.pl.recientes == std::vector<QString>{a.Ruta("SHEET.COL")} && b.pl.estados == std::vector<bool>{true});
+  b.doc.col.cab.ORDENA = b.doc.col.cab.PAGINI = 0;
   EXPECT_NE(TextoColeccion(b.doc.col).find("#ORDENA(0#ORDENA)#PAGINI( 0#PAGINI)"), std::string::npos);
   EXPECT_EQ(b.doc.AppBusy, 0);
 }
@@ -154,19 +95,15 @@ TEST(ColFile, TableRowsAndPictureNames) {
   const std::string fila = "  MOD X " + std::string(72, ' ') + "1234567890123456" + "0001\r\n";
   const auto ps = LeerProparam(fila + fila);
   ASSERT_EQ(ps.size(), 2u);
-  EXPECT_EQ(ps[0].Modulo, "MOD X");
-  EXPECT_EQ(ComandoProblema(ps[1]), "1234567890123456");
+  EXPECT_EQ(ps[0].Modulo + ComandoProblema(ps[1]), "MOD X1234567890123456");
   std::string quinientas;
   for (int i = 0; i < 500; ++i) quinientas += fila;
   EXPECT_EQ(LeerProparam(quinientas).size(), 500u);
   for (const std::string& mala : {std::string(), fila.substr(1), fila + "x", quinientas + fila})
     EXPECT_TRUE(LeerProparam(mala).empty());
   for (std::size_t col : {80u, 85u, 95u})
-    for (char bad : {' ', '-', '+', 'a', '\0'}) {
-      std::string mala = fila;
-      mala[col] = bad;
-      EXPECT_TRUE(LeerProparam(fila + mala).empty()) << col << " " << int(bad);
-    }
+    for (char bad : {' ', '-', '+', 'a', '\0'})
+      EXPECT_TRUE(LeerProparam(fila + std::string(fila).replace(col, 1, 1, bad)).empty()) << col << " " << int(bad);
 
   // Names are found from the hundredth character on, once each.
   const std::string pad98(98, '-');
@@ -183,8 +120,7 @@ TEST(ColFile, TableRowsAndPictureNames) {
 std::string Png(const QString& ruta, QColor color) {
   QImage img(3, 2, QImage::Format_RGB32);
   img.fill(color);
-  img.save(ruta, "PNG");
-  return Lee(ruta);
+  return img.save(ruta, "PNG"), Lee(ruta);
 }
 
 TEST(ColFile, PicturesTravelInsideTheFileAndReplaceOldCopies) {
@@ -203,40 +139,28 @@ TEST(ColFile, PicturesTravelInsideTheFileAndReplaceOldCopies) {
                                     Campo8(beaker.size()) + "flask.gif" + std::string(23, ' ') +
                                     Campo8(p2) + Campo8(flask.size()) + beaker + flask);
 
-  struct Caso {
-    const char* nombre;
-    std::vector<std::pair<QString, std::string>> antes;  // what the scratch folder held
-    QString propia;                                      // a picture of the program's own folder
-  } casos[] = {
-      {"another machine", {}, ""},
-      {"old copies of any case", {{"flask.gif", "old"}, {"FLASK.GIF", "old"}, {"beaker.png", "old"}}, ""},
-      {"the program's own wins", {}, "BEAKER.png"},
-  };
-  for (const Caso& c : casos) {
-    SCOPED_TRACE(c.nombre);
+  // Another machine; old copies of any case in the scratch folder; the program's own picture wins.
+  const std::vector<std::pair<QString, std::string>> viejas = {{"flask.gif", "old"}, {"FLASK.GIF", "old"}, {"beaker.png", "old"}};
+  for (auto [antes, propia] : {std::pair{decltype(viejas){}, QString()}, {viejas, QString()}, {decltype(viejas){}, QString("BEAKER.png")}}) {
+    SCOPED_TRACE(antes.size() * 10 + propia.size());
     Banco b;
     ASSERT_TRUE(CreaCarpetaTemporal(b.s.carpetas.temporal));
-    for (const auto& [n, bytes] : c.antes) Escribe(b.Temp(n), bytes);
-    if (!c.propia.isEmpty()) Png(b.programa.path() + "/img/" + c.propia, Qt::green);
+    for (const auto& [n, bytes] : antes) Escribe(b.Temp(n), bytes);
+    if (!propia.isEmpty()) Png(b.programa.path() + "/img/" + propia, Qt::green);
     ASSERT_TRUE(b.Carga(a.Ruta("pics.col")));
-    QStringList esperados = {"flask.gif"};
-    if (c.propia.isEmpty()) esperados.prepend("beaker.PNG");
-    EXPECT_EQ(QDir(b.s.carpetas.temporal).entryList(QDir::Files, QDir::Name), esperados);
-    EXPECT_EQ(Lee(b.Temp("flask.gif")), flask);
-    if (c.propia.isEmpty()) { EXPECT_EQ(Lee(b.Temp("beaker.PNG")), beaker); }
+    EXPECT_EQ(QDir(b.s.carpetas.temporal).entryList(QDir::Files, QDir::Name).join(' '),
+              propia.isEmpty() ? "beaker.PNG flask.gif" : "flask.gif");
+    EXPECT_EQ(Lee(b.Temp("flask.gif")) + Lee(b.Temp("beaker.PNG")), flask + (propia.isEmpty() ? beaker : "<missing>"));
     ASSERT_TRUE(b.Guarda(b.Ruta("again.col")));
-    if (c.propia.isEmpty()) { EXPECT_EQ(Lee(b.Ruta("again.col")), f); }
+    EXPECT_TRUE(!propia.isEmpty() || Lee(b.Ruta("again.col")) == f);
   }
-  struct stat st {};
-  ASSERT_EQ(::stat(QFile::encodeName(a.s.carpetas.temporal).constData(), &st), 0);
-  EXPECT_EQ(st.st_mode & 0777, 0700u);
+  EXPECT_EQ(Modo(a.s.carpetas.temporal), 0700);
 }
 
 TEST(ColFile, AHostileOrCrowdedPictureDirectoryWritesOnlyWhatTheTextsName) {
   Banco a;
   Pon(a.doc.col, {Prob("M", {1, 1, 1, 1, 1, 1}, "statement", "solution")});
-  for (const char* n : {"../escape.gif", "/tmp/abs.gif", ".hidden", "sub\\x.gif", "fine.gif",
-                        "last.gif", "dup.gif"})
+  for (const char* n : {"../escape.gif", "/tmp/abs.gif", ".hidden", "sub\\x.gif", "fine.gif", "last.gif", "dup.gif"})
     a.doc.col.problemas[0].Solucion += std::string(100, ' ') + "#IMG('" + n + "'#IMG)";
   std::string t = TextoColeccion(a.doc.col);
   const std::size_t d = t.size() + 1;
@@ -263,19 +187,13 @@ TEST(ColFile, AHostileOrCrowdedPictureDirectoryWritesOnlyWhatTheTextsName) {
 
   // A directory position past the end: no pictures, the text still loads.
   Banco b;
-  std::string fuera = t + dir + datos;
-  fuera.replace(fuera.find("#BINDIR(") + 8, 8, "99999999");
-  Escribe(b.Ruta("far.col"), fuera);
+  Escribe(b.Ruta("far.col"), (t + dir + datos).replace(t.find("#BINDIR(") + 8, 8, "99999999"));
   ASSERT_TRUE(b.Carga(b.Ruta("far.col")));
-  EXPECT_FALSE(QFileInfo::exists(b.s.carpetas.temporal));
-  EXPECT_EQ(b.doc.col.problemas[0].Solucion.substr(0, 8), "solution");
+  EXPECT_TRUE(!QFileInfo::exists(b.s.carpetas.temporal) && b.doc.col.problemas[0].Solucion.substr(0, 8) == "solution");
 }
 
 TEST(ColFile, AHeaderTextHoldingATagIsRefusedAndTheOldFileKept) {
-  struct Caso {
-    std::string ColeccionCab::*campo;
-    std::string texto, etiqueta;
-  } casos[] = {
+  const struct { std::string ColeccionCab::*campo; std::string texto, etiqueta; } casos[] = {
       {&ColeccionCab::TITULO, "#CABECERA)", "#CABECERA)"},
       {&ColeccionCab::TITULO, "Test #TITULO) x", "#TITULO)"},
       {&ColeccionCab::PROPRE, "#POSTI2)", "#POSTI2)"},
@@ -284,7 +202,7 @@ TEST(ColFile, AHeaderTextHoldingATagIsRefusedAndTheOldFileKept) {
       {&ColeccionCab::POSTI1, "x#PROPARAM)", "#PROPARAM)"},
       {&ColeccionCab::TITULO, "#TITULO( #titulo) # ) (#", ""},  // storable
   };
-  for (const Caso& c : casos) {
+  for (const auto& c : casos) {
     SCOPED_TRACE(c.texto);
     EXPECT_EQ(EtiquetaQueImpide(c.texto), c.etiqueta);
     Banco a;
@@ -301,8 +219,7 @@ TEST(ColFile, AHeaderTextHoldingATagIsRefusedAndTheOldFileKept) {
       EXPECT_EQ(b.doc.col.cab.*c.campo, c.texto);
       continue;
     }
-    EXPECT_EQ(Lee(a.Ruta("t.col")), "old bytes");
-    EXPECT_TRUE(a.doc.Modificada);
+    EXPECT_TRUE(Lee(a.Ruta("t.col")) == "old bytes" && a.doc.Modificada);
     ASSERT_EQ(a.pl.criticos.size(), 1u);
     EXPECT_NE(a.pl.criticos[0].find("\"" + c.etiqueta + "\""), std::string::npos) << a.pl.criticos[0];
   }
@@ -310,12 +227,8 @@ TEST(ColFile, AHeaderTextHoldingATagIsRefusedAndTheOldFileKept) {
 
 TEST(ColFile, FailedSavesKeepTheOldFileAndSayWhy) {
   const bool root = ::geteuid() == 0;  // the super-user is refused in /sys only
-  const struct {
-    std::string enunciado;
-    QString ruta;
-    std::string caja;  // the box begins so
-    bool guardarComo;  // Save As is offered
-  } casos[] = {
+  // The statement, the file, how the box begins and whether Save As is offered.
+  const struct { std::string enunciado; QString ruta; std::string caja; bool guardarComo; } casos[] = {
       {"#IMG('gone.gif'#IMG)", "t.col", "gone.gif\nThis picture of the worksheet was not found", false},
       {"x", "dir.col", "\n\nError = 57\nDevice I/O error", false},  // a folder in the way
       {"x", root ? "/sys/t.col" : "ro/t.col",
@@ -327,14 +240,12 @@ TEST(ColFile, FailedSavesKeepTheOldFileAndSayWhy) {
       Banco a;
       a.doc.col = Muestra();
       a.doc.col.problemas[0].Enunciado = c.enunciado;
-      QDir(a.ficheros.path()).mkdir("dir.col");
-      QDir(a.ficheros.path()).mkdir("ro");
+      for (const char* d : {"dir.col", "ro"}) QDir(a.ficheros.path()).mkdir(d);
       Escribe(a.Ruta("ro/t.col"), "old");
       ::chmod(QFile::encodeName(a.Ruta("ro")).constData(), 0555);
       const QString ruta = c.ruta.startsWith('/') ? c.ruta : a.Ruta(c.ruta);
       const std::string antes = Lee(ruta);
-      a.pl.exitoGuardarComo = exito;
-      a.doc.Modificada = true;
+      std::tie(a.pl.exitoGuardarComo, a.doc.Modificada) = std::tuple(exito, true);
       EXPECT_EQ(a.Guarda(ruta), c.guardarComo && exito);
       ::chmod(QFile::encodeName(a.Ruta("ro")).constData(), 0755);
       ASSERT_EQ(a.pl.criticos.size(), 1u);
@@ -342,9 +253,7 @@ TEST(ColFile, FailedSavesKeepTheOldFileAndSayWhy) {
       if (caja.find('%') != std::string::npos) caja.replace(caja.find('%'), 1, ruta.toStdString());
       EXPECT_NE(a.pl.criticos[0].find(caja), std::string::npos) << a.pl.criticos[0];
       EXPECT_EQ(a.pl.busyEnGuardarComo, c.guardarComo ? 0 : -1) << "Save As runs after the save let go";
-      EXPECT_EQ(Lee(ruta), antes);
-      EXPECT_FALSE(QFileInfo::exists(ruta + "x"));
-      EXPECT_TRUE(a.doc.Modificada);
+      EXPECT_TRUE(Lee(ruta) == antes && !QFileInfo::exists(ruta + "x") && a.doc.Modificada);
     }
 }
 
@@ -378,20 +287,16 @@ TEST(ColFile, DamagedFilesEndInTheInvalidFileBoxAndKeepWhatTheReaderLeaves) {
     Escribe(a.Ruta(c.fichero), bytes);
     Banco b;
     Pon(b.doc.col, {Prob("OLD", {1, 1, 1, 1, 1, 1}, "old 1", ""), Prob("OLD", {2, 2, 2, 2, 2, 2}, "old 2", "")});
-    b.doc.col.cab.PRETIT = "Old school";
-    b.doc.bloques.resize(5);
+    std::tie(b.doc.col.cab.PRETIT, b.doc.bloques) = std::tuple("Old school", std::vector<Bloque>(5));
     EXPECT_FALSE(b.Carga(a.Ruta(c.fichero)));
     ASSERT_EQ(b.pl.avisos.size(), 1u);
     EXPECT_EQ(b.pl.avisos[0].rfind(a.textos.GetL_win("InvalidFile"), 0), 0u);
     EXPECT_EQ(b.pl.avisos[0].find("64 MB") != std::string::npos, bytes.size() > 1000000);
     const std::size_t n = b.doc.col.problemas.size();
     EXPECT_EQ((b.doc.ruta.isEmpty() ? "- " : "path ") + std::to_string(n) + " " + (n ? b.doc.col.cab.PRETIT : ""), c.queda);
-    EXPECT_EQ(b.doc.col.cab.NPROB, static_cast<int32_t>(n));
-    EXPECT_EQ(b.doc.bloques.size(), n ? 5u : 0u);  // no rebuild ran
-    if (n == 3) { EXPECT_EQ(b.doc.col.problemas[0].Solucion, "18 g"); }
-    if (n) {
-      EXPECT_TRUE(b.pl.titulos.empty());  // the window still shows the old worksheet
-    }
+    EXPECT_EQ(b.doc.col.cab.NPROB * 10 + b.doc.bloques.size(), n * 10 + (n ? 5u : 0u));  // no rebuild ran
+    EXPECT_TRUE(n != 3 || b.doc.col.problemas[0].Solucion == "18 g");
+    EXPECT_TRUE(!n || b.pl.titulos.empty()) << "the window still shows the old worksheet";
     EXPECT_EQ(b.doc.AppBusy, 0);
   }
 }
@@ -406,36 +311,27 @@ TEST(Carpetas, ScratchFolderIsPrivateSharedUnderALockAndLookupsFallBackToAnyCase
     UsoCarpetaTemporal uno;
     EXPECT_EQ(uno.Ruta(), propia);
     Escribe(propia + "/a.gif", "a");
-    {
-      UsoCarpetaTemporal dos;  // another user of the folder
-      QDir(propia).mkdir("sub");
-    }
+    std::make_unique<UsoCarpetaTemporal>(), QDir(propia).mkdir("sub");  // another user of the folder comes and goes
     EXPECT_EQ(Lee(propia + "/a.gif"), "a") << "kept while another user lives";
   }
-  EXPECT_EQ(QDir(propia).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name),
-            (QStringList{"sheetsmith.lock", "sub"}));
+  EXPECT_EQ(QDir(propia).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name).join(' '), "sheetsmith.lock sub");
   ASSERT_TRUE(QDir(propia).removeRecursively());
   ASSERT_TRUE(QFile::link(tmp.path() + "/elsewhere", propia));
   EXPECT_EQ(CarpetaTemporal(), propia + "-" + QString::number(::geteuid()));  // never a planted link
-  EXPECT_FALSE(CreaCarpetaTemporal(propia));
-  EXPECT_TRUE(UsoCarpetaTemporal(propia).Ruta().isEmpty());
+  EXPECT_TRUE(!CreaCarpetaTemporal(propia) && UsoCarpetaTemporal(propia).Ruta().isEmpty());
   EXPECT_FALSE(QFileInfo::exists(tmp.path() + "/elsewhere"));
   if (::geteuid() == 0) {  // another user's folder
-    QFile::remove(propia);
-    ASSERT_TRUE(QDir().mkdir(propia));
+    ASSERT_TRUE(QFile::remove(propia) && QDir().mkdir(propia));
     ASSERT_EQ(::chown(QFile::encodeName(propia).constData(), 65534, 65534), 0);
-    EXPECT_EQ(CarpetaTemporal(), propia + "-" + QString::number(::geteuid()));
-    EXPECT_FALSE(CreaCarpetaTemporal(propia));
+    EXPECT_TRUE(CarpetaTemporal() == propia + "-" + QString::number(::geteuid()) && !CreaCarpetaTemporal(propia));
   }
   if (antes.isNull()) qunsetenv("TMPDIR"); else qputenv("TMPDIR", antes);
 
   const QString dir = tmp.path() + "/pics";
   ASSERT_TRUE(QDir().mkdir(dir));
   for (const char* n : {"Atom.gif", "atom.GIF", "Ring.png"}) Escribe(dir + "/" + n, "x");
-  const std::pair<QString, QString> casos[] = {{"atom.GIF", "atom.GIF"}, {"Atom.gif", "Atom.gif"},
-                                               {"RING.PNG", "Ring.png"}, {"ring.gif", ""},
-                                               {"../pics/Ring.png", ""}, {"", ""}};
-  for (const auto& [busca, halla] : casos)
+  for (auto [busca, halla] : {std::pair<QString, QString>{"atom.GIF", "atom.GIF"}, {"Atom.gif", "Atom.gif"},
+                              {"RING.PNG", "Ring.png"}, {"ring.gif", ""}, {"../pics/Ring.png", ""}, {"", ""}})
     EXPECT_EQ(BuscaEnCarpeta(dir, busca), halla.isEmpty() ? "" : dir + "/" + halla) << busca.toStdString();
 }
 
