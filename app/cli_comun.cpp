@@ -215,8 +215,8 @@ bool Trabajo::Carga(const QString& ruta) {
   return false;
 }
 
-void Trabajo::AvisaCortes() const {
-  for (int bloque : doc.cortados) Aviso(DeCp1252(ss::AvisoCorte(doc, bloque)));
+void Trabajo::AvisaCortes() {
+  for (int bloque : doc.cortados) Aviso(DeCp1252(ss::AvisoCorte(doc, bloque, textos)));
 }
 
 }  // namespace cli

@@ -141,7 +141,7 @@ struct Trabajo {
   bool Carga(const QString& ruta);
   // A warning on stderr for each problem taller than a page, which is cut at
   // the foot of a page of its own.
-  void AvisaCortes() const;
+  void AvisaCortes();
 };
 
 }  // namespace cli

@@ -371,14 +371,13 @@ int PaginaDeProblema(const Documento& doc, int pista) {
   return 1;
 }
 
-std::string AvisoCorte(const Documento& doc, int bloque) {
+std::string AvisoCorte(const Documento& doc, int bloque, TextosVentana& textos) {
   if (bloque < 1 || bloque > static_cast<int>(doc.bloques.size())) return {};
   const Bloque& b = doc.bloques[static_cast<std::size_t>(bloque - 1)];
-  const long long numero = static_cast<long long>(doc.col.cab.PROINI) + b.Origen - 1;
-  const std::string que = (b.Problema < 0 ? "The answer to problem " : "Problem ") +
-                          std::to_string(numero);
-  return que + " is taller than a page: it has page " + std::to_string(b.Pagina) +
-         " to itself and is cut off at the foot of that page.";
+  std::string aviso = textos.GetL_win(b.Problema < 0 ? "AnswerCut" : "ProblemCut");
+  Reemplaza(aviso, "%N%", std::to_string(static_cast<long long>(doc.col.cab.PROINI) + b.Origen - 1));
+  Reemplaza(aviso, "%P%", std::to_string(b.Pagina));
+  return aviso;
 }
 
 std::string TextoPagina(const Documento& doc, int pagina) {

@@ -38,7 +38,7 @@ void Paginar(Sesion& s, int pista);
 
 // What the user is told about a cut block (`bloque` from doc.cortados),
 // naming the problem as its label numbers it; empty for no such block.
-std::string AvisoCorte(const Documento& doc, int bloque);
+std::string AvisoCorte(const Documento& doc, int bloque, TextosVentana& textos);
 
 // The page to show for a problem hint.
 int PaginaDeProblema(const Documento& doc, int pista);

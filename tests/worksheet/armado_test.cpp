@@ -192,8 +192,8 @@ TEST(Paginar, ABlockTallerThanAPageIsCutOnAPageOfItsOwn) {
     int bloque = 1;
     while (e.doc.bloques[static_cast<std::size_t>(bloque - 1)].Origen != c.donde + 1) ++bloque;
     CompruebaPaginas(e, {bloque});
-    EXPECT_EQ(AvisoCorte(e.doc, bloque).rfind(c.aviso, 0), 0u) << AvisoCorte(e.doc, bloque);
-    EXPECT_EQ(AvisoCorte(e.doc, 0), "");
+    EXPECT_EQ(AvisoCorte(e.doc, bloque, e.textos).rfind(c.aviso, 0), 0u) << AvisoCorte(e.doc, bloque, e.textos);
+    EXPECT_EQ(AvisoCorte(e.doc, 0, e.textos), "");
   }
 }
 
