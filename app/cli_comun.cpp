@@ -146,7 +146,7 @@ void ImprimeJson(const QJsonDocument& doc, QJsonDocument::JsonFormat formato) {
 }
 
 std::filesystem::path CarpetaPrograma() {
-  return std::filesystem::path(QCoreApplication::applicationDirPath().toStdString());
+  return std::filesystem::path(ss::CarpetaDatos().toStdString());
 }
 
 Servicios::Servicios()
@@ -169,7 +169,7 @@ bool Catalogo(Servicios& servicios, const QString& sysedu, std::vector<std::stri
     silabo->Carga();
     if (silabo->NumAsignaturas() == 0 || !silabo->TextosCargados()) {
       Error(QStringLiteral("the education system '%1' has no usable subjects in the program folder %2")
-                .arg(sysedu, QCoreApplication::applicationDirPath()));
+                .arg(sysedu, ss::CarpetaDatos()));
       return false;
     }
     g.silabo = silabo.get();
@@ -194,7 +194,7 @@ void PlataformaCli::Cuenta(const std::string& siNada) const {
 Trabajo::Trabajo(std::optional<uint64_t> seed)
     : gen(&servicios.mensajes, ss::Aleatorio(seed)),
       s{doc, plataforma, gen, motor, oculta, textos,
-        ss::Carpetas{QCoreApplication::applicationDirPath(), temporal.Ruta()}} {
+        ss::Carpetas{ss::CarpetaDatos(), temporal.Ruta()}} {
   motor.reemplazos = NotacionPorDefecto(servicios);
 }
 

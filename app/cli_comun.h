@@ -89,7 +89,7 @@ QString DeCp1252(const std::string& texto);
 
 void ImprimeJson(const QJsonDocument& doc, QJsonDocument::JsonFormat formato);
 
-// The program's folder, where lang/, img/ and the .sed files stand.
+// The folder of the program's data, where lang/, img/ and the .sed files stand.
 std::filesystem::path CarpetaPrograma();
 
 // The services of a run: notation and the message tables of the program's

@@ -1,5 +1,6 @@
 #include "worksheet/carpetas.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -29,6 +30,14 @@ Entrada MiraCarpeta(const QString& carpeta) {
 }
 
 }  // namespace
+
+QString CarpetaDatos() {
+  const QString propia = QCoreApplication::applicationDirPath();
+  if (QFileInfo(propia + QStringLiteral("/lang")).isDir()) return propia;
+  const QString instalada = QDir::cleanPath(propia + QStringLiteral("/../share/sheetsmith"));
+  if (QFileInfo(instalada + QStringLiteral("/lang")).isDir()) return instalada;
+  return propia;
+}
 
 QString Carpetas::Img() const { return programa + QStringLiteral("/img"); }
 QString Carpetas::Lang() const { return programa + QStringLiteral("/lang"); }

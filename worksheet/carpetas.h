@@ -6,8 +6,13 @@
 
 namespace ss {
 
+// The folder of the program's data: lang/, img/, the .sed files, examples/
+// and the manual. In a build they stand beside the executable; an installed
+// program finds them in ../share/sheetsmith from its own folder.
+QString CarpetaDatos();
+
 struct Carpetas {
-  QString programa;  // the folder of the executable
+  QString programa;  // the folder of the program's data (CarpetaDatos)
   QString temporal;  // the scratch folder; created on first need
 
   QString Img() const;   // programa + "/img"
