@@ -13,11 +13,16 @@ QString Recorta(const QString& s) {
 
 }  // namespace
 
-QString TextoComando(const QStringList& args) {
-  if (args.size() == 1) return args.front();
-  QStringList quoted;
-  for (const QString& a : args) quoted << u'"' + a + u'"';
-  return quoted.join(u' ');
+QStringList FicherosDeArgumentos(const QStringList& args) {
+  if (args.size() == 1) return ProcesaCommand(args.front());
+  QStringList files;
+  for (const QString& a : args) {
+    const QString candidate = Recorta(a);
+    if (!EsNombreCol(candidate)) continue;
+    if (files.size() == kMaxFicherosAbrir) break;
+    files << candidate;
+  }
+  return files;
 }
 
 bool EsNombreCol(const QString& path) { return path.right(4).toUpper() == u".COL"; }

@@ -8,10 +8,11 @@ namespace ss {
 
 inline constexpr int kMaxFicherosAbrir = 16;
 
-// The program's command text rebuilt from its arguments (those after the
-// program's own name): one argument stands as it is; several are each put in
-// double quotes, the form in which several files are named.
-QString TextoComando(const QStringList& args);
+// The files named by the program's arguments (those after its own name), as
+// the system hands them over, already split: one argument is read as a
+// command text (below); several are each a worksheet when their name ends in
+// ".col" (any case), up to 16, and the 17th ends the reading.
+QStringList FicherosDeArgumentos(const QStringList& args);
 
 // The files named by a command text. Trimmed of blanks; empty gives none.
 // Text that does not begin with a double quote is one file, blanks and all,

@@ -19,6 +19,11 @@ class Plataforma {
   virtual void Critico(const std::string& texto) {}  // a critical box
   // A question with Yes, No and Cancel.
   virtual Respuesta Pregunta(const std::string& texto) { return Respuesta::No; }
+  // A warning that asks Yes or No, No being the default; true for Yes.
+  virtual bool Confirma(const std::string& texto) { return false; }
+  // Hands a worksheet to a new process of this program, which opens it in a
+  // window of its own.
+  virtual void AbreEnOtroProceso(const QString& ruta) {}
 
   // Lets pending events run in the middle of a long job.
   virtual void DejaCorrer() {}

@@ -108,14 +108,17 @@ TEST(ProcesaCommand, ReadsOnePathOrQuotedWorksheets) {
             QStringList({"16", "/w/s1.col", "/w/s16.col"}));
 }
 
-TEST(TextoComando, OneArgumentStandsSeveralAreQuoted) {
-  EXPECT_EQ(TextoComando({}), "");
-  EXPECT_EQ(TextoComando({"/a/my sheet.col"}), "/a/my sheet.col");
-  EXPECT_EQ(TextoComando({"/a/x.col", "/b/y z.col"}), "\"/a/x.col\" \"/b/y z.col\"");
-  // Arguments from a shell reach the same files as a quoted command text.
-  EXPECT_EQ(ProcesaCommand(TextoComando({"/a/x.col", "/b/notes.txt", "/b/y z.col"})),
-            QStringList({"/a/x.col", "/b/y z.col"}));
-  EXPECT_EQ(ProcesaCommand(TextoComando({"/a/notes.txt"})), QStringList({"/a/notes.txt"}));
+TEST(FicherosDeArgumentos, OneArgumentIsACommandTextSeveralAreEachAWorksheet) {
+  EXPECT_EQ(FicherosDeArgumentos({}), QStringList());
+  EXPECT_EQ(FicherosDeArgumentos({"/a/my sheet.col"}), QStringList({"/a/my sheet.col"}));
+  EXPECT_EQ(FicherosDeArgumentos({"/a/notes.txt"}), QStringList({"/a/notes.txt"}));
+  EXPECT_EQ(FicherosDeArgumentos({"\"/a/x.col\" \"/b/y.col\""}), QStringList({"/a/x.col", "/b/y.col"}));
+  // A quote inside one of several names is part of that name.
+  EXPECT_EQ(FicherosDeArgumentos({"/a/x.col", "/b/notes.txt", "/b/say \"hi\".col"}),
+            QStringList({"/a/x.col", "/b/say \"hi\".col"}));
+  QStringList many;
+  for (int i = 1; i <= 17; ++i) many << QStringLiteral("/w/s%1.col").arg(i);
+  EXPECT_EQ(FicherosDeArgumentos(many), many.mid(0, 16));
 }
 
 TEST(Drop, TheFirstFileDecidesTheDragTheDropKeepsWorksheets) {

@@ -1,0 +1,511 @@
+// The main window as a teacher meets it: started with or without files,
+// answered through scripted dialogs, driven by its menus, keys and drops.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QDropEvent>
+#include <QFile>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QProcess>
+#include <QScrollBar>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QUrl>
+
+#include <deque>
+#include <functional>
+#include <memory>
+
+#include "gui/dialogos.h"
+#include "gui/formmain.h"
+#include "gui/forminiopt.h"
+#include "gui/vista.h"
+#include "problems/texto.h"
+#include "worksheet/ajustes.h"
+#include "worksheet/coleccion.h"
+#include "worksheet/sesion.h"
+
+namespace ss {
+namespace {
+
+// Answers every dialog from a script and notes what was asked.
+struct Guion final : Dialogos {
+  QStringList avisos, preguntas, confirmaciones, lanzados, abiertos;
+  int paneles = 0, dialogosAbrir = 0, dialogosGuardar = 0;
+  bool terminado = false;
+  std::deque<Respuesta> respuestas;  // for the Yes/No/Cancel questions; No when empty
+  bool confirma = false;
+  QString abrir, guardar;
+  RespuestaPanel panel;
+
+  void Aviso(QWidget*, const QString& t) override { avisos << t; }
+  void Critico(QWidget*, const QString& t) override { avisos << t; }
+  Respuesta Pregunta(QWidget*, const QString& t) override {
+    preguntas << t;
+    if (respuestas.empty()) return Respuesta::No;
+    const Respuesta r = respuestas.front();
+    respuestas.pop_front();
+    return r;
+  }
+  bool Confirma(QWidget*, const QString& t) override { return confirmaciones << t, confirma; }
+  QString FicheroAbrir(QWidget*, const QString&, const QString&, const QString&) override {
+    return ++dialogosAbrir, abrir;
+  }
+  QString FicheroGuardar(QWidget*, const QString&, const QString&, const QString&) override {
+    return ++dialogosGuardar, guardar;
+  }
+  RespuestaPanel PanelInicio(FormIniOpt&) override { return ++paneles, panel; }
+  bool LanzaPrograma(const QString& ruta) override { return lanzados << ruta, true; }
+  bool AbreConEscritorio(const QUrl& url) override { return abiertos << url.toLocalFile(), true; }
+  void TerminaYa() override { terminado = true; }
+};
+
+// Worksheets made once by the command-line tool, as a teacher would have them.
+struct Hojas {
+  QTemporaryDir dir;
+  QString una, varias, dos, danada;
+  Hojas() {
+    auto nueva = [&](const QString& nombre, const QStringList& items) {
+      const QString ruta = dir.filePath(nombre);
+      QProcess p;
+      p.start(QStringLiteral(SS_CLI_PATH), QStringList{"new", "--subject", "Chemistry", "--seed", "3",
+                                                        "--title", "Test sheet", "-o", ruta} + items);
+      p.waitForFinished(60000);
+      EXPECT_EQ(p.exitCode(), 0) << p.readAllStandardError().toStdString();
+      return ruta;
+    };
+    una = nueva("one page.col", {"--item", "ANEU_QUIM_DIS:9=2"});
+    dos = nueva("second.col", {"--item", "ANEU_QUIM_DIS:4=2"});
+    varias = nueva("many.col", {"--all", "1", "--possol", "3"});
+    danada = dir.filePath("damaged.col");
+    QFile f(danada);
+    f.open(QIODevice::WriteOnly);
+    f.write("#CABECERA(this is not a worksheet");
+  }
+};
+
+Hojas& H() {
+  static Hojas h;
+  return h;
+}
+
+QString TextoDe(const std::string& clave) {
+  TextosVentana t(QCoreApplication::applicationDirPath().toStdString(), "MAI");
+  t.LoadIdioma();
+  return QString::fromStdString(Cp1252ToUtf8(t.GetL_win(clave)));
+}
+
+class Ventana : public ::testing::Test {
+ protected:
+  QTemporaryDir home;
+  std::unique_ptr<AlmacenUsuario> almacen;
+  Guion guion;
+  std::unique_ptr<FormMain> w;
+
+  void SetUp() override {
+    almacen = std::make_unique<AlmacenUsuario>(Ini());
+    guion.panel = {QString(), true};
+  }
+  void TearDown() override {
+    if (w) w->hide();
+    w.reset();
+  }
+  QString Ini() const { return home.filePath(QStringLiteral("settings.ini")); }
+
+  // Starts the program as it starts from the desktop, and waits until the
+  // start panel (if any) has had its turn.
+  void Abre(const QStringList& args = {}) {
+    w = std::make_unique<FormMain>(*almacen, guion, args);
+    w->show();
+    QTest::qWait(450);
+  }
+  QAction* A(const char* nombre) const { return w->findChild<QAction*>(QLatin1String(nombre)); }
+  Documento& doc() const { return w->documento(); }
+  QString Pagina() const { return w->LbPage()->text(); }
+  void Pulsa(Qt::Key k) { QTest::keyClick(w.get(), k); }
+  bool Visible(const char* menu) const { return w->findChild<QMenu*>(QLatin1String(menu))->menuAction()->isVisible(); }
+  // Opens a file through File > Open.
+  void AbreFichero(const QString& ruta) {
+    guion.abrir = ruta;
+    A("mnu_File_Open")->trigger();
+  }
+  bool Cierra() {
+    bool cerrada = w->close();
+    return cerrada;
+  }
+};
+
+TEST_F(Ventana, StartsEmptyShowsThePanelOnceAndCarriesOutItsChoice) {
+  guion.panel = {QStringLiteral("OPEN:") + H().una, false};
+  Abre();
+  ASSERT_EQ(guion.paneles, 1);
+  EXPECT_TRUE(w->IniPanelCerrado());
+  // The panel's choice was carried out and its box stored.
+  EXPECT_EQ(doc().ruta, H().una);
+  EXPECT_TRUE(w->windowTitle().startsWith(TituloApp() + "  -  one page.col"));
+  EXPECT_EQ(QSettings(Ini(), QSettings::IniFormat).value("INI_WIN/SHOW").toString(), "0");
+  EXPECT_FALSE(A("mnu_setup_WIN_INI")->isChecked());
+  EXPECT_TRUE(Visible("mnu_Edicion") && Visible("mnu_COLEC") && A("mnu_File_Save")->isEnabled());
+  EXPECT_EQ(Pagina(), TextoDe("Pag") + " 1/1");
+  QTest::qWait(400);
+  EXPECT_EQ(guion.paneles, 1);
+}
+
+TEST_F(Ventana, WithThePanelOffTheWindowOpensEmptyAndDocumentlessControlsStayOff) {
+  almacen->Escribe("INI_WIN", "SHOW", "0");
+  Abre();
+  EXPECT_EQ(guion.paneles, 0);
+  EXPECT_EQ(w->windowTitle(), TituloApp() + "[*]");
+  EXPECT_FALSE(Visible("mnu_Edicion") || Visible("mnu_COLEC"));
+  EXPECT_FALSE(A("mnu_File_Save")->isEnabled() || A("mnu_File_SaveAs")->isEnabled());
+  EXPECT_TRUE(A("mnu_File_Open")->isEnabled());
+  for (int i = 4; i <= 8; ++i) EXPECT_FALSE(w->Boton(i)->isVisible()) << i;
+  EXPECT_FALSE(w->Boton(2)->isEnabled() || w->Boton(3)->isEnabled());
+  EXPECT_TRUE(Pagina().isEmpty());
+  // The page keys have nothing to act on.
+  Pulsa(Qt::Key_PageDown);
+  Pulsa(Qt::Key_End);
+  EXPECT_EQ(doc().paginaActual, 1);
+}
+
+TEST_F(Ventana, TheEditGroupOfTheToolbarShowsWithADocumentWhenAskedFor) {
+  almacen->Escribe("Ver", "EdicBotones", "S");
+  Abre({H().una});
+  for (int i = 4; i <= 8; ++i) EXPECT_TRUE(w->Boton(i)->isVisible()) << i;
+  A("mnu_setup_BotEdic")->trigger();
+  for (int i = 4; i <= 8; ++i) EXPECT_FALSE(w->Boton(i)->isVisible()) << i;
+  ASSERT_TRUE(Cierra());
+  EXPECT_EQ(QSettings(Ini(), QSettings::IniFormat).value("Ver/EdicBotones").toString(), "N");
+}
+
+TEST_F(Ventana, TheFirstFileOpensHereAndTheOthersStartProcessesOfTheirOwn) {
+  const QString otros[2] = {H().dos, H().varias};
+  Abre({H().una, otros[0], "notes.txt", otros[1]});
+  EXPECT_EQ(guion.paneles, 0);  // a command line keeps the panel away
+  EXPECT_EQ(doc().ruta, H().una);
+  EXPECT_EQ(guion.lanzados, QStringList(std::begin(otros), std::end(otros)));
+
+  // Three worksheets and a picture dropped on the page: the same.
+  guion.lanzados.clear();
+  QMimeData datos;
+  datos.setUrls({QUrl::fromLocalFile(H().varias), QUrl::fromLocalFile("/tmp/x.png"), QUrl::fromLocalFile(H().una),
+                 QUrl::fromLocalFile(H().dos)});
+  QDragEnterEvent entra(QPoint(200, 200), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(w.get(), &entra);
+  EXPECT_TRUE(entra.isAccepted());
+  QDropEvent suelta(QPointF(200, 200), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(w.get(), &suelta);
+  EXPECT_EQ(doc().ruta, H().varias);
+  EXPECT_EQ(guion.lanzados, QStringList({H().una, H().dos}));
+
+  // A drag whose first file is not a worksheet is refused.
+  QMimeData imagen;
+  imagen.setUrls({QUrl::fromLocalFile("/tmp/x.png"), QUrl::fromLocalFile(H().una)});
+  QDragEnterEvent otra(QPoint(200, 200), Qt::CopyAction, &imagen, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(w.get(), &otra);
+  EXPECT_FALSE(otra.isAccepted());
+}
+
+TEST_F(Ventana, ABadFileGivesTheMessageAndLeavesAUsableEmptyWindow) {
+  const QByteArray antes = [&] { QFile f(H().danada); f.open(QIODevice::ReadOnly); return f.readAll(); }();
+  const QStringList ficheros = QDir(H().dir.path()).entryList(QDir::Files);
+  for (const QString& malo : {H().danada, H().dir.filePath("missing.col"), H().dir.path() + "/notes.txt"}) {
+    SCOPED_TRACE(malo.toStdString());
+    guion.avisos.clear();
+    w.reset();
+    Abre({malo});
+    ASSERT_EQ(guion.avisos.size(), 1);
+    EXPECT_TRUE(guion.avisos[0].startsWith(TextoDe("InvalidFile")));
+    EXPECT_FALSE(Visible("mnu_COLEC"));
+    EXPECT_TRUE(A("mnu_File_Open")->isEnabled() && w->menuBar()->isEnabled());
+    // Still usable: a good file opens after it.
+    AbreFichero(H().una);
+    EXPECT_EQ(doc().col.problemas.size(), 2u);
+  }
+  QFile f(H().danada);
+  f.open(QIODevice::ReadOnly);
+  EXPECT_EQ(f.readAll(), antes);
+  EXPECT_EQ(QDir(H().dir.path()).entryList(QDir::Files), ficheros);
+}
+
+TEST_F(Ventana, TheRecentListPutsTheLatestFirstAndIsStoredAtTheEnd) {
+  almacen->Escribe("INI_WIN", "SHOW", "0");
+  Abre();
+  auto titulos = [&] {
+    QStringList t;
+    for (int i = 1; i <= 9; ++i) {
+      QAction* a = A(("mnu_File_Reciente" + std::to_string(i)).c_str());
+      if (a->isVisible()) t << a->text();
+    }
+    return t;
+  };
+  EXPECT_FALSE(A("zep04")->isVisible());
+  for (const QString& f : {H().una, H().dos, H().varias}) AbreFichero(f);
+  EXPECT_EQ(titulos(), QStringList({"&1  many.col", "&2  second.col", "&3  one page.col"}));
+  A("mnu_File_Reciente3")->trigger();  // the oldest comes to the top
+  EXPECT_EQ(doc().ruta, H().una);
+  EXPECT_EQ(titulos(), QStringList({"&1  one page.col", "&2  many.col", "&3  second.col"}));
+  ASSERT_TRUE(Cierra());
+  {
+    QSettings s(Ini(), QSettings::IniFormat);
+    EXPECT_EQ(s.value("Reciente/Archivo1").toString(), H().una);
+    EXPECT_EQ(s.value("Reciente/Titulo2").toString(), "many.col");
+    EXPECT_EQ(s.value("LastPath/Path").toString(), H().dir.path());
+  }
+  // The next run reads them back; a slot whose file is gone says so and stays.
+  almacen = std::make_unique<AlmacenUsuario>(Ini());
+  almacen->Escribe("Reciente", "Archivo4", H().dir.filePath("gone.col"));
+  almacen->Escribe("Reciente", "Titulo4", "gone.col");
+  Abre();
+  EXPECT_EQ(titulos().size(), 4);
+  A("mnu_File_Reciente4")->trigger();
+  ASSERT_EQ(guion.avisos.size(), 1);
+  EXPECT_EQ(guion.avisos[0], H().dir.filePath("gone.col") + "\n" + TextoDe("FileNotFound"));
+  EXPECT_EQ(titulos().size(), 4);
+}
+
+TEST_F(Ventana, ClosingAsksToSaveChangesAndTheAnswerDecides) {
+  almacen->Escribe("INI_WIN", "SHOW", "0");
+  // No changes: no question.
+  Abre({H().una});
+  EXPECT_TRUE(Cierra());
+  EXPECT_TRUE(guion.preguntas.isEmpty());
+
+  // A re-created worksheet has changes and no file any more.
+  Abre({H().una});
+  A("mnu_COLEC_RECREAR")->trigger();
+  EXPECT_TRUE(doc().Modificada && doc().ruta.isEmpty());
+  EXPECT_TRUE(w->isWindowModified());
+  guion.respuestas = {Respuesta::Cancelar};
+  EXPECT_FALSE(Cierra());
+  ASSERT_EQ(guion.preguntas.size(), 1);
+  EXPECT_TRUE(guion.preguntas[0].endsWith(TextoDe("msg_Ask2Save")));
+  // Yes with a Save As that is cancelled: still not saved, still open.
+  guion.respuestas = {Respuesta::Si};
+  EXPECT_FALSE(Cierra());
+  EXPECT_EQ(guion.dialogosGuardar, 1);
+  // Yes and a name: saved under it (".col" added), then closed.
+  const QString nueva = home.filePath("copy");
+  guion.guardar = nueva;
+  guion.respuestas = {Respuesta::Si};
+  EXPECT_TRUE(Cierra());
+  EXPECT_TRUE(QFileInfo::exists(nueva + ".col"));
+  EXPECT_EQ(QSettings(Ini(), QSettings::IniFormat).value("Reciente/Archivo1").toString(), nueva + ".col");
+
+  // No closes without saving.
+  Abre({H().una});
+  A("mnu_COLEC_RECREAR")->trigger();
+  guion.respuestas = {Respuesta::No};
+  EXPECT_TRUE(Cierra());
+}
+
+TEST_F(Ventana, WhileAJobRunsOtherCommandsAreRefusedAndClosingWarns) {
+  almacen->Escribe("INI_WIN", "SHOW", "0");
+  Abre({H().varias});
+  // Commands that arrive while the worksheet is re-made wait for nothing: they are refused.
+  bool visto = false, menusApagados = false;
+  QTimer::singleShot(0, w.get(), [&] {
+    visto = doc().AppBusy > 0;
+    menusApagados = !w->menuBar()->isEnabled() && !w->findChild<QWidget*>("tbToolbar1")->isEnabled();
+    guion.abrir = H().una;
+    A("mnu_File_Open")->trigger();
+    Pulsa(Qt::Key_End);
+    guion.confirma = false;
+    w->close();
+  });
+  const int antes = doc().paginaActual;
+  A("mnu_COLEC_RECREAR")->trigger();
+  ASSERT_TRUE(visto);
+  EXPECT_TRUE(menusApagados);
+  EXPECT_EQ(guion.dialogosAbrir, 0);
+  EXPECT_EQ(doc().paginaActual, antes);
+  ASSERT_EQ(guion.confirmaciones.size(), 1);  // No: the window stays
+  EXPECT_TRUE(w->isVisible() && !guion.terminado);
+  EXPECT_TRUE(w->menuBar()->isEnabled() && w->findChild<QWidget*>("tbToolbar1")->isEnabled());
+
+  // Yes ends the process on the spot, storing nothing of this run.
+  guion.respuestas = {Respuesta::No};
+  QTimer::singleShot(0, w.get(), [&] {
+    guion.confirma = true;
+    w->close();
+  });
+  A("mnu_COLEC_RECREAR")->trigger();
+  EXPECT_TRUE(guion.terminado);
+  EXPECT_FALSE(QSettings(Ini(), QSettings::IniFormat).contains("Reciente/Archivo1"));
+}
+
+TEST_F(Ventana, PagesTurnByArrowsAndKeysWithinTheWorksheet) {
+  almacen->Escribe("INI_WIN", "SHOW", "0");
+  Abre({H().varias});
+  const int n = doc().numPaginas;
+  ASSERT_GE(n, 3);
+  auto en = [&](int p) { return doc().paginaActual == p && Pagina() == TextoDe("Pag") + QString(" %1/%2").arg(p).arg(n); };
+  Pulsa(Qt::Key_PageUp);
+  EXPECT_TRUE(en(1));
+  Pulsa(Qt::Key_PageDown);
+  EXPECT_TRUE(en(2));
+  Pulsa(Qt::Key_End);
+  EXPECT_TRUE(en(n));
+  Pulsa(Qt::Key_PageDown);
+  EXPECT_TRUE(en(n));
+  Pulsa(Qt::Key_Home);
+  EXPECT_TRUE(en(1));
+  QTest::mouseClick(w->findChild<QWidget*>("ImgRPage"), Qt::LeftButton);
+  EXPECT_TRUE(en(2));
+  QTest::mouseClick(w->findChild<QWidget*>("ImgLPage"), Qt::LeftButton);
+  EXPECT_TRUE(en(1));
+  EXPECT_FALSE(w->findChild<QWidget*>("ImgLPage")->isEnabled());
+
+  // The arrow keys scroll by one small step, within the bar's limits.
+  A("mnu_setup_zoom200")->trigger();
+  QScrollBar* v = w->vista().verticalScrollBar();
+  ASSERT_TRUE(v->isVisible());
+  Pulsa(Qt::Key_Down);
+  Pulsa(Qt::Key_Down);
+  EXPECT_EQ(v->value(), 2 * v->singleStep());
+  Pulsa(Qt::Key_Up);
+  Pulsa(Qt::Key_Up);
+  Pulsa(Qt::Key_Up);
+  EXPECT_EQ(v->value(), v->minimum());
+  // Turning a page brings the bar to the top.
+  v->setValue(v->maximum());
+  Pulsa(Qt::Key_PageDown);
+  EXPECT_EQ(v->value(), v->minimum());
+  // The wheel moves one small step a notch, however the notch arrives.
+  QWheelEvent rueda(QPointF(50, 50), QPointF(50, 50), {}, QPoint(0, -60), Qt::NoButton, Qt::NoModifier,
+                    Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(w->vista().viewport(), &rueda);
+  EXPECT_EQ(v->value(), v->minimum());
+  QCoreApplication::sendEvent(w->vista().viewport(), &rueda);
+  EXPECT_EQ(v->value(), v->minimum() + v->singleStep());
+
+  // One page: Home and End stay on it.
+  AbreFichero(H().una);
+  Pulsa(Qt::Key_Home);
+  EXPECT_EQ(doc().paginaActual, 1);
+  Pulsa(Qt::Key_End);
+  EXPECT_EQ(doc().paginaActual, 1);
+}
+
+TEST_F(Ventana, ZoomScalesTheSheetAndFitToWidthStaysWithinItsBounds) {
+  almacen->Escribe("INI_WIN", "SHOW", "0");
+  Abre({H().varias});
+  const int paginas = doc().numPaginas;
+  const std::vector<int> antes = [&] { std::vector<int> v; for (auto& b : doc().bloques) v.push_back(b.Pagina); return v; }();
+  struct { const char* entrada; double zoom; } fijos[] = {
+      {"mnu_setup_zoom50", 0.5}, {"mnu_setup_zoom75", 0.75}, {"mnu_setup_zoom150", 1.5}, {"mnu_setup_zoom200", 2}, {"mnu_setup_zoom100", 1}};
+  for (const auto& f : fijos) {
+    A(f.entrada)->trigger();
+    EXPECT_DOUBLE_EQ(w->vista().Zoom(), f.zoom);
+    EXPECT_EQ(w->vista().Imagen().deviceIndependentSize().toSize(), QSize(qRound(796 * f.zoom), qRound(1125 * f.zoom)));
+  }
+  A("mnu_setup_zoomANCHO")->trigger();
+  for (const int ancho : {900, 1400, 4000}) {
+    w->resize(ancho, 700);
+    QTest::qWait(20);
+    const double esperado = std::clamp((w->vista().AnchoUtil() - 28) / 796, 0.5, 3.0);
+    EXPECT_DOUBLE_EQ(w->vista().Zoom(), esperado) << ancho;
+  }
+  EXPECT_DOUBLE_EQ(w->vista().Zoom(), 3.0);
+  // Zoom never moves a page break.
+  std::vector<int> despues;
+  for (auto& b : doc().bloques) despues.push_back(b.Pagina);
+  EXPECT_EQ(doc().numPaginas, paginas);
+  EXPECT_EQ(despues, antes);
+}
+
+// The ink of the page number: the bounding box of what is drawn in a band of
+// the page that only the number may use, and the darkest value in it.
+struct Tinta {
+  QRect caja;
+  int oscuro = 255;
+};
+Tinta TintaEn(const QImage& img, int y0, int y1) {
+  Tinta t;
+  for (int y = y0; y < y1; ++y)
+    for (int x = 0; x < img.width(); ++x) {
+      const QColor c = img.pixelColor(x, y);
+      if (c.red() > 245 && c.green() > 245 && c.blue() > 245) continue;
+      t.caja |= QRect(x, y, 1, 1);
+      t.oscuro = std::min({t.oscuro, c.red(), c.green(), c.blue()});
+    }
+  return t;
+}
+
+TEST_F(Ventana, ThePageNumberStandsWhereTheHeaderSays) {
+  almacen->Escribe("INI_WIN", "SHOW", "0");
+  Abre({H().varias});
+  A("mnu_setup_zoom100")->trigger();
+  Documento& d = doc();
+  d.col.cab.PAGINI = 5;
+  const double mitad = 796 / 2.0;
+  struct { int posnumpag, pagina; bool derecha, abajo; } casos[] = {
+      {4, 3, true, false},   // 7, odd: right
+      {4, 2, false, false},  // 6, even: left
+      {5, 3, false, false},  // 7: left
+      {12, 3, true, true},   // at the foot
+      {2, 3, false, false},  {1, 2, true, false},
+  };
+  // With the margins of 16 mm the number's line lies between 60 and 77
+  // pixels from the top, or as far from the foot; no other ink comes there.
+  const int margen = qRound(16 / 25.4 * 96);
+  for (const auto& c : casos) {
+    d.col.cab.POSNUMPAG = c.posnumpag;
+    d.paginaActual = c.pagina - 1;
+    Pulsa(Qt::Key_PageDown);
+    const QImage& img = w->vista().Imagen();
+    const Tinta arriba = TintaEn(img, margen - 2, margen + 16), abajo = TintaEn(img, 1123 - margen - 18, 1123 - margen + 2);
+    const Tinta& n = c.abajo ? abajo : arriba;
+    ASSERT_FALSE(n.caja.isNull()) << c.posnumpag;
+    EXPECT_EQ(n.caja.center().x() > mitad, c.derecha) << c.posnumpag << " page " << c.pagina;
+    EXPECT_GT(n.oscuro, 100) << "grey, not black";
+  }
+  d.col.cab.POSNUMPAG = 0;
+  Pulsa(Qt::Key_PageUp);
+  // No number: no line kept free, the title stands on the top margin.
+  EXPECT_LT(TintaEn(w->vista().Imagen(), margen - 2, margen + 16).oscuro, 60);
+}
+
+TEST_F(Ventana, TheEducationSystemMenuChoosesAndStoresTheSystem) {
+  almacen->Escribe("INI_WIN", "SHOW", "0");
+  Abre();
+  QMenu* menu = w->findChild<QMenu*>("mnu_setup_SYSEDU");
+  ASSERT_TRUE(menu->menuAction()->isVisible());
+  const QList<QAction*> entradas = menu->actions();
+  ASSERT_GE(entradas.size(), 2);
+  EXPECT_TRUE(entradas.back()->isChecked());  // none chosen yet: "<None>"
+  entradas.front()->trigger();
+  EXPECT_TRUE(entradas.front()->isChecked() && !entradas.back()->isChecked());
+  EXPECT_EQ(QSettings(Ini(), QSettings::IniFormat).value("SYSEDU/cmbtext").toString(), "Secondary_Chemistry.sed");
+}
+
+TEST_F(Ventana, TheManualIsHandedToTheDesktop) {
+  almacen->Escribe("INI_WIN", "SHOW", "0");
+  Abre();
+  A("mnu_Help_Manual")->trigger();
+  const QString manual = QCoreApplication::applicationDirPath() + "/Manual_ENG.pdf";
+  if (QFileInfo::exists(manual)) {
+    EXPECT_EQ(guion.abiertos, QStringList{manual});
+    EXPECT_TRUE(guion.avisos.isEmpty());
+  } else {
+    EXPECT_EQ(guion.avisos, QStringList{TextoDe("FileNotFoundOpen") + "\n" + manual});
+  }
+}
+
+}  // namespace
+}  // namespace ss
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  ::testing::InitGoogleTest(&argc, argv);
+  QApplication app(argc, argv);
+  return RUN_ALL_TESTS();
+}
