@@ -86,6 +86,7 @@ FormIniOpt::FormIniOpt(TextosVentana& t, const QString& carpetaDatos, bool asist
   setObjectName(QStringLiteral("FormIniOpt"));
   setWindowTitle(QStringLiteral("Sheetsmith - Chemistry"));
   setModal(true);
+  setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint);
   t.LoadIdioma();
 
   auto* todo = new QVBoxLayout(this);
@@ -143,6 +144,7 @@ FormIniOpt::FormIniOpt(TextosVentana& t, const QString& carpetaDatos, bool asist
   connect(cerrar, &QPushButton::clicked, this, [this] { Elige(QString()); });
   pie->addWidget(cerrar);
   todo->addLayout(pie);
+  todo->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 bool FormIniOpt::Mostrar() const { return check1_->isChecked(); }

@@ -77,9 +77,7 @@ QWidget* VistaPagina::Hoja() const { return lienzo_; }
 
 void VistaPagina::PonZoom(double zoom) {
   zoom_ = zoom;
-  const QRect hoja = lienzo_->Hoja();
-  lienzo_->resize(kIzquierda + hoja.width() + kSombra + kIzquierda, kArriba + hoja.height() + kSombra + kAbajo);
-  lienzo_->update();
+  MuestraHoja();
 }
 
 double VistaPagina::AnchoUtil() const {
@@ -92,8 +90,14 @@ void VistaPagina::Limpia() {
   MuestraHoja();
 }
 
+// Without a sheet there is nothing to scroll: the scrolled widget takes no room.
 void VistaPagina::MuestraHoja() {
-  lienzo_->setVisible(hojaVisible_ && !espera_);
+  const bool visible = hojaVisible_ && !espera_;
+  const QRect hoja = lienzo_->Hoja();
+  lienzo_->resize(visible ? QSize(kIzquierda + hoja.width() + kSombra + kIzquierda,
+                                  kArriba + hoja.height() + kSombra + kAbajo)
+                          : QSize(0, 0));
+  lienzo_->setVisible(visible);
   lienzo_->update();
   viewport()->update();
 }
