@@ -345,6 +345,53 @@ TEST(Cli, MarkupFileFillsPagesWithWholeParagraphs) {
   }
 }
 
+// What the build makes for the start panel and the Help menu. The panel's
+// names lead to example worksheets that open, each with its own place of the
+// solutions and real problems of its topics on a few pages; the manual is a
+// searchable PDF with its sections, and shows the codes as they are typed.
+TEST(Cli, TheExamplesAndTheManualAreBuilt) {
+  const QString datos = QFileInfo(SS_CLI_PATH).absolutePath();
+  ss::TextosVentana panel(datos.toStdString(), "INO");
+  auto texto = [&](const QString& clave) {
+    return QString::fromStdString(ss::Cp1252ToUtf8(panel.GetL_win(clave.toStdString())));
+  };
+  const struct { int possol; QSet<int> rutinas; } ejemplos[] = {{1, {4, 9}}, {2, {1, 2, 3}}, {3, {6, 7, 8}}};
+  for (int i = 0; i < 3; ++i) {
+    SCOPED_TRACE(i);
+    EXPECT_FALSE(texto(QString("TitleExample%1").arg(i)).isEmpty());
+    const Salida r = Cli({"info", datos + "/" + texto("FolderExamples") + "/" + texto(QString("FileExample%1").arg(i))});
+    ASSERT_EQ(r.code, 0) << r.err.toStdString();
+    EXPECT_TRUE(r.err.isEmpty()) << r.err.toStdString();  // nothing cut at a page's foot
+    const QJsonObject info = r.obj();
+    EXPECT_EQ(info["header"]["POSSOL"].toInt(), ejemplos[i].possol);
+    for (const char* campo : {"TITULO", "PRETIT", "POSTI1"}) EXPECT_FALSE(info["header"][campo].toString().isEmpty()) << campo;
+    EXPECT_TRUE(info["pages"].toInt() >= 2 && info["pages"].toInt() <= 4) << info["pages"].toInt();
+    const QJsonArray problemas = info["problems"].toArray();
+    EXPECT_TRUE(problemas.size() >= 6 && problemas.size() <= 12) << problemas.size();
+    QSet<int> vistas;
+    for (const QJsonValue& p : problemas) {
+      EXPECT_EQ(p["module"].toString(), "ANEU_QUIM_DIS");
+      vistas << p["Rutina"].toInt();
+      EXPECT_FALSE(p["statement"].toString().isEmpty() || p["statement"].toString().contains("ERROR"));
+      EXPECT_FALSE(p["solution"].toString().trimmed().isEmpty() || p["solution"].toString().contains("ERROR"));
+    }
+    EXPECT_EQ(vistas, ejemplos[i].rutinas);
+  }
+
+  QProcess pdftotext;
+  pdftotext.start("pdftotext", {datos + "/Manual_ENG.pdf", "-"});
+  ASSERT_TRUE(pdftotext.waitForFinished(60000) && pdftotext.exitCode() == 0)
+      << "pdftotext (poppler-utils) reads the manual: " << pdftotext.readAllStandardError().toStdString();
+  const QString manual = QString::fromUtf8(pdftotext.readAllStandardOutput());
+  EXPECT_TRUE(manual.count('\f') >= 4 && manual.count('\f') <= 8) << manual.count('\f');
+  for (const char* titulo : {"User Manual", "1 What the program does", "2 The main window", "3 Making a worksheet",
+                             "4 Changing a worksheet on the page", "5 Where the solutions go", "6 Saving and opening",
+                             "7 Printing and PDF", "8 Worksheets for every student of a group", "9 Codes you can type"})
+    EXPECT_TRUE(manual.contains(QRegularExpression(QString("(^|\f)%1$").arg(titulo), QRegularExpression::MultilineOption))) << titulo;
+  for (const char* codigo : {"&LF", "H_2SO_4", "#COC(m#N)(V#COC)", "#SPB(R14#T)(6#SPB)C", "&Delta"})
+    EXPECT_TRUE(manual.contains(codigo)) << codigo;
+}
+
 // Every page is written, or, when a file cannot be read or an output cannot be
 // written, the program's own message, exit 1, no output and no file left behind.
 TEST(Cli, RenderWritesEveryPageOrNothing) {
