@@ -245,8 +245,8 @@ struct Parrafo {
 
 // Cuts a markup file into paragraphs at empty lines; a line's blanks, tabs and
 // the CR of a CR LF end do not count. Lines that begin with ";" are comments
-// and are dropped. The lines of a paragraph are joined by
-// a blank, except after a "&LF", which already ends the line on the page.
+// and are dropped. The lines of a paragraph are joined by a blank, except
+// after a "&LF", which already ends the line on the page.
 std::vector<Parrafo> Parrafos(const std::string& archivo) {
   std::vector<Parrafo> parrafos;
   bool abierto = false;
@@ -256,7 +256,9 @@ std::vector<Parrafo> Parrafos(const std::string& archivo) {
     if (fin == std::string::npos) fin = archivo.size();
     std::string_view linea = std::string_view(archivo).substr(desde, fin - desde);
     const std::size_t izquierda = linea.find_first_not_of(" \t\r");
-    linea = izquierda == linea.npos ? std::string_view() : linea.substr(izquierda, linea.find_last_not_of(" \t\r") - izquierda + 1);
+    linea = izquierda == linea.npos
+                ? std::string_view()
+                : linea.substr(izquierda, linea.find_last_not_of(" \t\r") - izquierda + 1);
     desde = fin + 1;
     ++numero;
     if (linea.starts_with(';')) continue;
