@@ -1,11 +1,14 @@
 // sheetsmith-cli: the program's core without windows, for batch work and for
 // testing from outside. Output is UTF-8; errors are one line on stderr.
 #include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cstdio>
 
 #include "app/cli_comun.h"
@@ -26,8 +29,8 @@ const std::vector<Comando>& Comandos() {
        ComandoSubjects},
       {"topics", "--subject NAME [--sysedu FILE.sed] [--json]",
        "a subject's topics and items, as --item of new takes them", ComandoTopics},
-      {"markup", "TEXT -o OUT.png|OUT.pdf [--zoom Z]", "set one markup text on a page",
-       ComandoMarkup},
+      {"markup", "(TEXT | --file FILE) -o OUT.png|OUT.pdf [--zoom Z]",
+       "set a markup text on a page, or a file of markup paragraphs on pages", ComandoMarkup},
       {"new",
        "[--sysedu FILE.sed] --subject NAME (--item MODULE:N=AMOUNT[:ITEMS] | --all AMOUNT)... "
        "[--possol 0-3] [--ordena|--shuffle] [--title T] [--pretit T] [--posti1 T] [--posti2 T] "
@@ -231,32 +234,197 @@ QString TipoDeSalida(const QString& salida, bool png) {
   return {};
 }
 
+namespace {
+
+// A paragraph of a markup file: its text, joined into one line of markup, and
+// the file line it begins on.
+struct Parrafo {
+  std::string texto;
+  int linea = 0;
+};
+
+// Cuts a markup file into paragraphs at empty lines; a line's blanks, tabs and
+// the CR of a CR LF end do not count. Lines that begin with ";" are comments
+// and are dropped. The lines of a paragraph are joined by a blank, except
+// after a "&LF", which already ends the line on the page.
+std::vector<Parrafo> Parrafos(const std::string& archivo) {
+  std::vector<Parrafo> parrafos;
+  bool abierto = false;
+  int numero = 0;
+  for (std::size_t desde = 0; desde <= archivo.size();) {
+    std::size_t fin = archivo.find('\n', desde);
+    if (fin == std::string::npos) fin = archivo.size();
+    std::string_view linea = std::string_view(archivo).substr(desde, fin - desde);
+    const std::size_t izquierda = linea.find_first_not_of(" \t\r");
+    linea = izquierda == linea.npos
+                ? std::string_view()
+                : linea.substr(izquierda, linea.find_last_not_of(" \t\r") - izquierda + 1);
+    desde = fin + 1;
+    ++numero;
+    if (linea.starts_with(';')) continue;
+    if (linea.empty()) {
+      abierto = false;
+      continue;
+    }
+    if (!abierto) {
+      parrafos.push_back({std::string(linea), numero});
+      abierto = true;
+      continue;
+    }
+    std::string& texto = parrafos.back().texto;
+    if (!texto.ends_with("&LF")) texto += ' ';
+    texto += linea;
+  }
+  return parrafos;
+}
+
+// The first words of a paragraph, to name it in a message.
+QString Comienzo(const std::string& texto) {
+  const QStringList palabras = DeCp1252(texto).simplified().split(u' ');
+  QString comienzo = palabras.mid(0, 6).join(u' ');
+  if (comienzo.size() > 60) comienzo = comienzo.left(57);
+  if (palabras.size() > 6 || comienzo.size() == 57) comienzo += QStringLiteral("...");
+  return comienzo;
+}
+
+// The foot of the page, in the middle: the place code 3 with the foot bit 8.
+constexpr int kNumeroAlPie = 8 + 3;
+// Paragraphs offered to one trial page at first, and the widening step; the
+// marks of a trial are numbered by their place in it, 1 to 999.
+constexpr std::size_t kVentanaParrafos = 49;
+constexpr std::size_t kMaxVentanaParrafos = 999;
+
+// The text of a page of paragraphs desde..hasta. Each begins a line with its
+// mark, numbered by its place on the page, and ends with one blank line: the
+// gap before the next paragraph or, after the last, the line kept free for
+// the page number. A paragraph fits, as the trial page reports it, only with
+// the blank line behind it.
+std::string TextoDePagina(const std::vector<Parrafo>& parrafos, std::size_t desde, std::size_t hasta) {
+  std::string texto;
+  for (std::size_t k = desde; k <= hasta; ++k) {
+    if (k > desde) texto += "&LF";
+    texto += "#MARK=" + ss::ZeroPadCut(static_cast<long long>(k - desde + 1), 3);
+    texto += parrafos[k].texto;
+    texto += "&LF ";
+  }
+  return texto;
+}
+
+// Fills pages one after another with whole paragraphs, trying each page's
+// text on the hidden page: the typesetter's last mark tells which paragraph
+// ran past the foot. False, with the paragraph that is taller than a page in
+// `alto`, when one does not fit even on a page of its own.
+bool PaginaParrafos(const std::vector<Parrafo>& parrafos, ss::Motor& motor, std::vector<std::string>& paginas,
+                    const Parrafo** alto) {
+  ss::CanvasQt oculta(nullptr);
+  for (std::size_t cursor = 0; cursor < parrafos.size();) {
+    std::size_t ancho = kVentanaParrafos;
+    std::size_t hasta = 0;
+    int resultado = 0;
+    for (;;) {
+      hasta = std::min(parrafos.size(), cursor + ancho) - 1;
+      motor.ComponerTexto(TextoDePagina(parrafos, cursor, hasta), 12, oculta);
+      resultado = motor.UltimaMarca;
+      if (resultado > 0 && hasta + 1 < parrafos.size() && ancho + kVentanaParrafos < kMaxVentanaParrafos) {
+        ancho += kVentanaParrafos;
+        continue;
+      }
+      break;
+    }
+    if (resultado < 0) {
+      if (resultado == -1) {
+        *alto = &parrafos[cursor];
+        return false;
+      }
+      hasta = cursor + static_cast<std::size_t>(-resultado) - 2;
+    }
+    paginas.push_back(TextoDePagina(parrafos, cursor, hasta));
+    cursor = hasta + 1;
+  }
+  if (paginas.empty()) paginas.emplace_back();
+  return true;
+}
+
+constexpr qint64 kMaxArchivo = 64LL * 1024 * 1024;
+
+}  // namespace
+
 int ComandoMarkup(const QStringList& args) {
   Argumentos a("markup",
-               QStringLiteral("Sets one markup text on a page (796 by 1125 pixels at zoom 1, margins\n"
-                              "of 16 mm) and writes it as a PNG, as the page shows on screen, or as a\n"
-                              "PDF, as it prints. A TEXT that begins with \"-\" comes last, after \"--\":\n"
-                              "sheetsmith-cli markup -o t.png -- \"-5 &.5 K\"."));
+               QStringLiteral(
+                   "Sets one markup text on a page (796 by 1125 pixels at zoom 1, margins of\n"
+                   "16 mm) and writes it as a PNG, as the page shows on screen, or as a PDF, as\n"
+                   "it prints. A TEXT that begins with \"-\" comes last, after \"--\":\n"
+                   "sheetsmith-cli markup -o t.png -- \"-5 &.5 K\".\n"
+                   "\n"
+                   "With --file, sets a UTF-8 file of markup on as many pages as it needs, each\n"
+                   "numbered at the foot, and prints {\"pages\": P}. Empty lines part the file into\n"
+                   "paragraphs; the lines of a paragraph are joined with a blank (&LF ends a line\n"
+                   "on the page), and lines that begin with \";\" are comments. A paragraph is\n"
+                   "never split over two pages, and an empty line stands between two paragraphs\n"
+                   "on a page. Every page starts in plain 12-point Times, and a code holds to the\n"
+                   "end of its page. A paragraph taller than a page is an error. The output is\n"
+                   "OUT.pdf, or OUT-%d.png for one image a page."));
   a.Posicional(QStringLiteral("TEXT"), QStringLiteral("The markup text."))
-      .Opcion({QStringLiteral("o")}, QStringLiteral("The file to write, ending in .png or .pdf."),
+      .Opcion({QStringLiteral("file")}, QStringLiteral("A UTF-8 file of markup paragraphs, instead of TEXT."),
+              QStringLiteral("FILE"))
+      .Opcion({QStringLiteral("o")},
+              QStringLiteral("The file to write, ending in .png or .pdf (with --file: OUT.pdf or "
+                             "OUT-%d.png)."),
               QStringLiteral("OUT"))
       .Opcion({QStringLiteral("zoom")}, QStringLiteral("The PNG's scale, 0.1 to 8 (default 1)."),
               QStringLiteral("Z"));
-  if (auto fin = a.Lee(args, 1, 1)) return *fin;
+  if (auto fin = a.Lee(args, 0, 1)) return *fin;
+  const bool deArchivo = a.Esta(QStringLiteral("file"));
+  if (deArchivo == (a.Posicionales().size() == 1))
+    return Usage(QStringLiteral("markup"), deArchivo ? QStringLiteral("markup takes TEXT or --file FILE, not both")
+                                                     : QStringLiteral("markup needs TEXT or --file FILE"));
   const QString out = a.Valor(QStringLiteral("o"));
-  if (const QString porque = TipoDeSalida(out, false); !porque.isEmpty())
+  if (const QString porque = TipoDeSalida(out, deArchivo); !porque.isEmpty())
     return Usage(QStringLiteral("markup"), porque);
   const std::optional<double> zoom = Zoom(a);
   if (!zoom) return Usage(QStringLiteral("markup"), QStringLiteral("--zoom takes a number from 0.1 to 8"));
-  const std::string texto = ACp1252(a.Posicionales()[0], QStringLiteral("TEXT"));
+  const bool pdf = out.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive);
   Servicios servicios;
   ss::Motor motor;
   motor.reemplazos = NotacionPorDefecto(servicios);
-  const ss::PintaPagina pinta = [&](int, ss::Canvas& canvas) { motor.ComponerTexto(texto, 12, canvas); };
   QString error;
-  const bool pdf = out.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive);
-  if (!(pdf ? ss::EscribePdf(out, 1, pinta, &error) : ss::EscribePng(out, *zoom, 1, pinta, &error)))
+
+  if (!deArchivo) {
+    const std::string texto = ACp1252(a.Posicionales()[0], QStringLiteral("TEXT"));
+    const ss::PintaPagina pinta = [&](int, ss::Canvas& canvas) { motor.ComponerTexto(texto, 12, canvas); };
+    if (!(pdf ? ss::EscribePdf(out, 1, pinta, &error) : ss::EscribePng(out, *zoom, 1, pinta, &error)))
+      return Error(error);
+    return 0;
+  }
+
+  const QString ruta = a.Valor(QStringLiteral("file"));
+  const QFileInfo info(ruta);
+  QFile archivo(ruta);
+  if (!info.exists()) return Error(QStringLiteral("%1: no such file").arg(ruta));
+  if (info.isDir()) return Error(QStringLiteral("%1: it is a folder, not a text file").arg(ruta));
+  if (info.size() > kMaxArchivo) return Error(QStringLiteral("%1: larger than 64 MB").arg(ruta));
+  if (!archivo.open(QIODevice::ReadOnly))
+    return Error(QStringLiteral("%1: cannot be read (%2)").arg(ruta, archivo.errorString()));
+  QString utf8 = QString::fromUtf8(archivo.readAll());
+  if (utf8.startsWith(QChar(0xFEFF))) utf8.remove(0, 1);
+  const std::vector<Parrafo> parrafos = Parrafos(ACp1252(utf8, QStringLiteral("--file")));
+
+  std::vector<std::string> paginas;
+  const Parrafo* alto = nullptr;
+  if (!PaginaParrafos(parrafos, motor, paginas, &alto))
+    return Error(QStringLiteral("%1:%2: the paragraph \"%3\" is taller than a page; part it with an empty line")
+                     .arg(ruta)
+                     .arg(alto->linea)
+                     .arg(Comienzo(alto->texto)));
+  const ss::PintaPagina pinta = [&](int pagina, ss::Canvas& canvas) {
+    motor.ComponerTexto(paginas[static_cast<std::size_t>(pagina - 1)], 12, canvas);
+    ss::DibujaNumeroPagina(motor, canvas, pagina, 1, kNumeroAlPie);
+  };
+  const int n = static_cast<int>(paginas.size());
+  if (!(pdf ? ss::EscribePdf(out, n, pinta, &error) : ss::EscribePngs(out, *zoom, n, pinta, &error)))
     return Error(error);
+  ImprimeJson(QJsonDocument(QJsonObject{{QStringLiteral("pages"), n}}), QJsonDocument::Compact);
   return 0;
 }
 

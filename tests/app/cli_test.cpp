@@ -101,6 +101,8 @@ TEST(Cli, WrongArgumentsGiveOneUsageLineExit2AndNoFile) {
       gen + QStringList{"\u0669009000000300030"},  // an Arabic-Indic digit
       {"catalogue", "extra"}, {"subjects", "--subject", "x"}, {"topics"}, {"topics", "--subject", "Astrology"},
       {"markup", "x"}, {"markup", "x", "-o", dir.filePath("x.svg")}, {"markup", "x", "-o", "x.png", "--zoom", "9"},
+      {"markup", "-o", dir.filePath("x.pdf")}, {"markup", "x", "--file", "m.txt", "-o", dir.filePath("x.pdf")},
+      {"markup", "--file", "m.txt", "-o", dir.filePath("x.png")} /* no %d for the pages */,
       {"new"}, nuevo, {"new", "--subject", "Astrology", "--all", "1", "-o", col},
       nuevo + QStringList{"--item", "ANEU_QUIM_DIS:99=1"}, nuevo + QStringList{"--item", "ANEU_QUIM_DIS:9"},
       nuevo + QStringList{"--item", "ANEU_QUIM_DIS:9=0"}, nuevo + QStringList{"--item", "ANEU_QUIM_DIS:9=100"},
@@ -272,6 +274,124 @@ TEST(Cli, NewMarksWhatIsAskedAndTheSeedRepeatsIt) {
   }
 }
 
+// A markup file fills as many pages as its paragraphs need, a paragraph never
+// split: a page holds 46 lines of 12-point text and keeps the next one free for
+// the page number, and an empty line stands between two paragraphs. Comments take no room, and a
+// line of the page may be written over several lines of the file.
+TEST(Cli, MarkupFileFillsPagesWithWholeParagraphs) {
+  QTemporaryDir dir;
+  // `lineas` lines of the page, each written as `partes` lines of the file.
+  auto parrafo = [](const QByteArray& primera, int lineas, int partes = 1, const QByteArray& fin = "\n",
+                    bool comentarios = false) {
+    QByteArray p;
+    for (int i = 1; i <= lineas; ++i) {
+      p += (i == 1 ? primera : "Line") + QByteArray::number(i);
+      for (int k = 1; k < partes; ++k) p += fin + "goes on";
+      p += (i < lineas ? "&LF" : "") + fin;
+      if (comentarios) p += "; a comment&LFthat would take a line&LF" + fin;
+    }
+    return p;
+  };
+  auto varios = [&](int n, int lineas, int partes = 1, const QByteArray& fin = "\n", bool comentarios = false) {
+    QByteArray t;
+    for (int k = 0; k < n; ++k) t += (k ? fin : QByteArray()) + parrafo("Line", lineas, partes, fin, comentarios);
+    return t;
+  };
+  const struct { const char* caso; QByteArray texto; int paginas; } casos[] = {
+      {"two of 20 lines a page", varios(5, 20), 3},
+      {"four of 10 lines a page", varios(9, 10), 3},
+      {"one of 30 lines a page", varios(3, 30), 3},
+      {"a whole page", varios(2, 46), 2},
+      {"23, a gap and 22 lines fill a page", parrafo("Line", 23) + "\n" + parrafo("Line", 22), 1},
+      {"but not with one line more", parrafo("Line", 23) + "\n" + parrafo("Line", 23), 2},
+      {"nor with a paragraph behind", parrafo("Line", 23) + "\n" + parrafo("Line", 23) + "\n" + parrafo("Line", 24), 3},
+      {"comments take no room", varios(4, 20, 1, "\n", true), 2},
+      {"CR LF, lines written in parts", varios(4, 20, 3, "\r\n"), 2},
+      {"nothing but comments", "; only a comment\n\n   \n", 1},
+      {"one line too many", parrafo("Line", 20) + "\n" + parrafo("Too tall", 47), 0},
+      {"far too tall", "\xEF\xBB\xBF" + parrafo("Too tall", 120), 0},
+  };
+  for (const auto& c : casos) {
+    SCOPED_TRACE(c.caso);
+    Escribe(dir.filePath("m.txt"), c.texto);
+    const QString pdf = dir.filePath(QString("%1.pdf").arg(c.caso));
+    const Salida r = Cli({"markup", "--file", dir.filePath("m.txt"), "-o", pdf});
+    if (c.paginas == 0) {
+      EXPECT_EQ(r.code, 1);
+      const QRegularExpression error("^error: .*m\\.txt:(\\d+): the paragraph \"Too tall1&LFLine2.*\" is taller than a page");
+      EXPECT_TRUE(error.match(QString(r.err)).hasMatch()) << r.err.toStdString();
+      EXPECT_EQ(error.match(QString(r.err)).captured(1).toInt(), c.texto.left(c.texto.indexOf("Too tall")).count('\n') + 1);
+      EXPECT_FALSE(QFileInfo::exists(pdf));
+      continue;
+    }
+    ASSERT_EQ(r.code, 0) << r.err.toStdString();
+    EXPECT_EQ(r.obj().value("pages").toInt(), c.paginas);
+    EXPECT_EQ(QString::fromLatin1(Lee(pdf)).count(QRegularExpression("/Type\\s*/Page(?!s)")), c.paginas);
+  }
+
+  // As images, one a page, each numbered at the foot in the middle.
+  Escribe(dir.filePath("m.txt"), varios(5, 20));
+  ASSERT_EQ(Cli({"markup", "--file", dir.filePath("m.txt"), "-o", dir.filePath("p-%d.png")}).obj().value("pages").toInt(), 3);
+  EXPECT_FALSE(QFileInfo::exists(dir.filePath("p-4.png")));
+  for (int p = 1; p <= 3; ++p) {
+    const QImage img(dir.filePath(QString("p-%1.png").arg(p)));
+    auto tinta = [&](int x0, int x1) {
+      for (int y = 1040; y < 1065; ++y)
+        for (int x = x0; x < x1; ++x)
+          if (qGray(img.pixel(x, y)) < 200) return true;
+      return false;
+    };
+    EXPECT_TRUE(tinta(380, 416) && !tinta(60, 370) && !tinta(426, 736)) << p;
+  }
+}
+
+// What the build makes for the start panel and the Help menu. The panel's
+// names lead to example worksheets that open, each with its own place of the
+// solutions and real problems of its topics on a few pages; the manual is a
+// searchable PDF with its sections, and shows the codes as they are typed.
+TEST(Cli, TheExamplesAndTheManualAreBuilt) {
+  const QString datos = QFileInfo(SS_CLI_PATH).absolutePath();
+  ss::TextosVentana panel(datos.toStdString(), "INO");
+  auto texto = [&](const QString& clave) {
+    return QString::fromStdString(ss::Cp1252ToUtf8(panel.GetL_win(clave.toStdString())));
+  };
+  const struct { int possol; QSet<int> rutinas; } ejemplos[] = {{1, {4, 9}}, {2, {1, 2, 3}}, {3, {6, 7, 8}}};
+  for (int i = 0; i < 3; ++i) {
+    SCOPED_TRACE(i);
+    EXPECT_FALSE(texto(QString("TitleExample%1").arg(i)).isEmpty());
+    const Salida r = Cli({"info", datos + "/" + texto("FolderExamples") + "/" + texto(QString("FileExample%1").arg(i))});
+    ASSERT_EQ(r.code, 0) << r.err.toStdString();
+    EXPECT_TRUE(r.err.isEmpty()) << r.err.toStdString();  // nothing cut at a page's foot
+    const QJsonObject info = r.obj();
+    EXPECT_EQ(info["header"]["POSSOL"].toInt(), ejemplos[i].possol);
+    for (const char* campo : {"TITULO", "PRETIT", "POSTI1"}) EXPECT_FALSE(info["header"][campo].toString().isEmpty()) << campo;
+    EXPECT_TRUE(info["pages"].toInt() >= 2 && info["pages"].toInt() <= 4) << info["pages"].toInt();
+    const QJsonArray problemas = info["problems"].toArray();
+    EXPECT_TRUE(problemas.size() >= 6 && problemas.size() <= 12) << problemas.size();
+    QSet<int> vistas;
+    for (const QJsonValue& p : problemas) {
+      EXPECT_EQ(p["module"].toString(), "ANEU_QUIM_DIS");
+      vistas << p["Rutina"].toInt();
+      EXPECT_FALSE(p["statement"].toString().isEmpty() || p["statement"].toString().contains("ERROR"));
+      EXPECT_FALSE(p["solution"].toString().trimmed().isEmpty() || p["solution"].toString().contains("ERROR"));
+    }
+    EXPECT_EQ(vistas, ejemplos[i].rutinas);
+  }
+
+  QProcess pdftotext;
+  pdftotext.start("pdftotext", {datos + "/Manual_ENG.pdf", "-"});
+  ASSERT_TRUE(pdftotext.waitForFinished(60000) && pdftotext.exitCode() == 0)
+      << "pdftotext (poppler-utils) reads the manual: " << pdftotext.readAllStandardError().toStdString();
+  const QString manual = QString::fromUtf8(pdftotext.readAllStandardOutput());
+  EXPECT_TRUE(manual.count('\f') >= 4 && manual.count('\f') <= 8) << manual.count('\f');
+  for (const char* titulo : {"User Manual", "1 What the program does", "2 The main window", "3 Making a worksheet",
+                             "4 Changing a worksheet on the page", "5 Where the solutions go", "6 Saving and opening",
+                             "7 Printing and PDF", "8 Worksheets for every student of a group", "9 Codes you can type"})
+    EXPECT_TRUE(manual.contains(QRegularExpression(QString("(^|\f)%1$").arg(titulo), QRegularExpression::MultilineOption))) << titulo;
+  for (const char* codigo : {"&LF", "H_2SO_4", "#COC(m#N)(V#COC)", "#SPB(R14#T)(6#SPB)C", "&Delta"})
+    EXPECT_TRUE(manual.contains(codigo)) << codigo;
+}
+
 // Every page is written, or, when a file cannot be read or an output cannot be
 // written, the program's own message, exit 1, no output and no file left behind.
 TEST(Cli, RenderWritesEveryPageOrNothing) {
@@ -315,7 +435,9 @@ TEST(Cli, RenderWritesEveryPageOrNothing) {
       {{"render", col, "-o", "/proc/ss.pdf"}, "cannot write /proc/ss.pdf"},
       {{"render", col, "-o", dir.filePath("missing/p-%d.png")}, "no such folder"},
       {{"new", "--subject", "Chemistry", "--item", "ANEU_QUIM_DIS:1=1", "-o", dir.filePath("missing/x.col")}, ""},
-      {{"markup", "x", "-o", "/proc/ss.png"}, "cannot write /proc/ss.png"}, {{"catalogue", "--sysedu", "none.sed"}, "none.sed"},
+      {{"markup", "x", "-o", "/proc/ss.png"}, "cannot write /proc/ss.png"},
+      {{"markup", "--file", dir.filePath("missing.txt"), "-o", dir.filePath("n.pdf")}, "missing.txt: no such file"},
+      {{"markup", "--file", dir.path(), "-o", dir.filePath("n.pdf")}, "it is a folder"}, {{"catalogue", "--sysedu", "none.sed"}, "none.sed"},
       {{"render", col, "-o", lleno.filePath("kept.pdf")}, montado ? "No space left on device" : ""},
       {{"render", col, "-o", lleno.filePath("p-%d.png"), "--zoom", "0.5"}, montado ? "No space left on device" : ""},
       {{"markup", "x", "-o", lleno.filePath("m.png"), "--zoom", "8"}, montado ? "No space left on device" : ""},
