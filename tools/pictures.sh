@@ -1,0 +1,43 @@
+#!/usr/bin/env bash
+# Redraws every PNG picture from its SVG source with rsvg-convert
+# (Debian: librsvg2-bin). A developer's tool: the build never runs it, the PNGs
+# are kept in the repository. Run it after editing an SVG and commit both.
+#
+#   bash tools/pictures.sh
+set -euo pipefail
+
+top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+img="$top/img"
+hicolor="$top/desktop/icons/hicolor"
+
+# draw SVG SIZE OUT: the SVG as a SIZE x SIZE PNG.
+draw() { rsvg-convert -w "$2" -h "$2" -o "$3" "$1"; }
+
+# Each picture at its own size and at twice that as NAME@2x.png, which Qt
+# picks on screens of a device pixel ratio of 2.
+both() {
+  local name=$1 size=$2
+  draw "$img/$name.svg" "$size" "$img/$name.png"
+  draw "$img/$name.svg" $((size * 2)) "$img/$name@2x.png"
+}
+
+for name in tb_open tb_new tb_save tb_recreate tb_undo tb_redo tb_cut tb_copy \
+            tb_paste tb_print tb_zoom tb_help; do
+  both "$name" 32
+done
+for name in page_left page_left_pressed page_right page_right_pressed; do
+  both "$name" 24
+done
+for name in ini_example0 ini_example1 ini_example2 ini_open ini_new; do
+  both "$name" 64
+done
+
+# The program's icon: in img/, and in the desktop's icon theme at the sizes
+# a desktop asks for, with the SVG itself as the scalable one.
+draw "$img/app_icon.svg" 256 "$img/app_icon.png"
+mkdir -p "$hicolor/scalable/apps"
+cp "$img/app_icon.svg" "$hicolor/scalable/apps/org.lumenfold.Sheetsmith.svg"
+for size in 48 64 128 256; do
+  mkdir -p "$hicolor/${size}x${size}/apps"
+  draw "$img/app_icon.svg" "$size" "$hicolor/${size}x${size}/apps/org.lumenfold.Sheetsmith.png"
+done
