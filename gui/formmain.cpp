@@ -135,8 +135,12 @@ FormMain::FormMain(Almacen& almacen, Dialogos& dialogos, const QStringList& args
   timer6_->setSingleShot(true);
   connect(timer6_, &QTimer::timeout, this, &FormMain::Timer6_Timer);
 
-  // The load sequence.
+  // The load sequence, behind the opening panel.
   n_->textos.LoadIdioma();
+  splash_ = new FormAcerca(FormAcerca::Modo::Apertura, n_->textos, n_->datos, kMsApertura);
+  if (const QScreen* s = screen()) splash_->move(s->availableGeometry().center() - splash_->rect().center());
+  splash_->show();
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   CreaMenus();
   CreaBarra();
   SetLanguage();
@@ -593,9 +597,7 @@ void FormMain::showEvent(QShowEvent* e) {
 
 void FormMain::PrimeraActivacion() {
   if (ajusteAncho_) AjustaAncho();
-  splash_ = new FormAcerca(FormAcerca::Modo::Apertura, n_->textos, n_->datos, kMsApertura);
-  splash_->move(geometry().center() - splash_->rect().center());
-  splash_->show();
+  if (splash_) splash_->raise();
   if (!ficherosAbrir_.isEmpty()) {
     OpenDRAGDROPFiles_Command(n_->s, ficherosAbrir_, [this] { mnu_File_Save(); });
     Refresca();
