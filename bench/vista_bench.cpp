@@ -1,6 +1,6 @@
 // The page view: one page of a 20-page worksheet drawn at zoom 1 into the
-// view's image, and a page turn of the main window (the page drawn, the
-// label and the buttons brought up to date).
+// view's image, one edit to the page redrawn, and a page turn of the main
+// window (the page drawn, the label and the buttons brought up to date).
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -14,6 +14,7 @@
 #include "gui/vista.h"
 #include "worksheet/ajustes.h"
 #include "worksheet/colfile.h"
+#include "worksheet/edicion.h"
 
 namespace {
 
@@ -44,6 +45,26 @@ void BM_PintarPaginaVista(benchmark::State& state) {
   state.counters["pages"] = h.doc.numPaginas;
 }
 BENCHMARK(BM_PintarPaginaVista)->Unit(benchmark::kMillisecond);
+
+// One edit in the middle of the worksheet, as the teacher sees it: the
+// problem in the middle moves down a place (its undo step stored), the blocks
+// are rebuilt and paginated anew, and the page it lands on is drawn.
+void BM_EdicionAlaPagina(benchmark::State& state) {
+  Hoja20& h = LaHoja();
+  ss::VistaPagina vista;
+  vista.PonZoom(1);
+  const int medio = static_cast<int>(h.doc.col.problemas.size()) / 2;
+  for (auto _ : state) {
+    int bloque = 0;
+    for (std::size_t b = 0; b < h.doc.bloques.size(); ++b)
+      if (h.doc.bloques[b].Problema == medio) bloque = static_cast<int>(b) + 1;
+    h.doc.marcas = {ss::MarcaPagina{0, 0, true, bloque}};
+    if (!ss::Mover(h.s, 3)) state.SkipWithError("nothing moved");
+    vista.PintarPagina(h.doc, h.motor, h.doc.paginaActual);
+  }
+  state.counters["pages"] = h.doc.numPaginas;
+}
+BENCHMARK(BM_EdicionAlaPagina)->Unit(benchmark::kMillisecond);
 
 // Says nothing and asks nothing.
 struct Callados final : ss::Dialogos {

@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QDir>
 #include <QDragEnterEvent>
@@ -25,6 +26,7 @@
 #include <QUrl>
 
 #include <cmath>
+#include <functional>
 #include <memory>
 
 #include "gui/dialogos.h"
@@ -42,6 +44,7 @@
 #include "worksheet/carpetas.h"
 #include "worksheet/colfile.h"
 #include "worksheet/commands.h"
+#include "worksheet/edicion.h"
 #include "worksheet/inicio.h"
 #include "worksheet/sesion.h"
 
@@ -128,6 +131,7 @@ FormMain::FormMain(Almacen& almacen, Dialogos& dialogos, const QStringList& args
   setAcceptDrops(true);
   vista_ = new VistaPagina(this);
   vista_->alCambiarAncho = [this] { AjustaAncho(); };
+  vista_->alPulsar = [this](Qt::MouseButton b, double x, double y, QPoint global) { AlPulsar(b, x, y, global); };
   setCentralWidget(vista_);
   timer6_ = new QTimer(this);
   timer6_->setObjectName(QStringLiteral("Timer6"));
@@ -160,7 +164,9 @@ FormMain::FormMain(Almacen& almacen, Dialogos& dialogos, const QStringList& args
   lineaDeComandosVacia_ = args.isEmpty();
   ficherosAbrir_ = FicherosDeArgumentos(args);
   FijarTextoLabelsPicTool();
+  connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &FormMain::RevisaPortapapeles);
   NoColeccion(n_->s);
+  RevisaPortapapeles();
   ActualizaMenusCheckeados();
 
   const QRect pantalla = screen() ? screen()->availableGeometry() : QRect(0, 0, 1280, 900);
@@ -207,20 +213,55 @@ void FormMain::CreaMenus() {
   mnuFile_->addSeparator();
   accion(mnuFile_, "mnu_File_Exit", [this] { close(); })->setShortcut(QKeySequence::Quit);
 
-  // Editing on the page comes with the selection of problems.
   mnuEdicion_ = menuBar()->addMenu(QString());
   mnuEdicion_->setObjectName(QStringLiteral("mnu_Edicion"));
-  for (const char* nombre : {"mnu_Edicion_Undo", "mnu_Edicion_Redo", "", "mnu_Edicion_Cut", "mnu_Edicion_Copy",
-                             "mnu_Edicion_Paste", "mnu_Edicion_Del", "", "mnu_Edicion_Mover0",
-                             "mnu_Edicion_Mover1", "mnu_Edicion_Mover2", "mnu_Edicion_Mover3", "",
-                             "mnu_Edicion_REGEN1", "mnu_Edicion_INS"}) {
-    if (!*nombre) {
+  struct Entrada {
+    const char* nombre;
+    std::function<void()> alElegir;
+    QList<QKeySequence> atajos;
+  };
+  const Entrada entradas[] = {
+      {"mnu_Edicion_Undo", [this] { Comando([this] { Deshacer(n_->s); return true; }); }, {QKeySequence::Undo}},
+      {"mnu_Edicion_Redo", [this] { Comando([this] { Rehacer(n_->s); return true; }); },
+       {QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)}},
+      {"", {}, {}},
+      {"mnu_Edicion_Cut", [this] { mnu_Edicion_Cut(); }, {QKeySequence::Cut}},
+      {"mnu_Edicion_Copy", [this] { mnu_Edicion_Copy(); }, {QKeySequence::Copy}},
+      {"mnu_Edicion_Paste", [this] { mnu_Edicion_Paste(); }, {QKeySequence::Paste}},
+      {"mnu_Edicion_Del", [this] { Comando([this] { return Borrar(n_->s); }); }, {QKeySequence(Qt::Key_Delete)}},
+      {"", {}, {}},
+      {"mnu_Edicion_Mover0", [this] { Comando([this] { return Mover(n_->s, 0); }); },
+       {QKeySequence(Qt::CTRL | Qt::Key_Home)}},
+      {"mnu_Edicion_Mover1", [this] { Comando([this] { return Mover(n_->s, 1); }); },
+       {QKeySequence(Qt::CTRL | Qt::Key_End)}},
+      {"mnu_Edicion_Mover2", [this] { Comando([this] { return Mover(n_->s, 2); }); },
+       {QKeySequence(Qt::CTRL | Qt::Key_Up)}},
+      {"mnu_Edicion_Mover3", [this] { Comando([this] { return Mover(n_->s, 3); }); },
+       {QKeySequence(Qt::CTRL | Qt::Key_Down)}},
+      {"", {}, {}},
+      {"mnu_Edicion_REGEN1", [this] { mnu_Edicion_REGEN1(); }, {}},
+      {"mnu_Edicion_INS", [this] { Comando([this] { return PegarSimilar(n_->s); }); }, {}},
+  };
+  for (const Entrada& e : entradas) {
+    if (!*e.nombre) {
       mnuEdicion_->addSeparator();
       continue;
     }
-    accion(mnuEdicion_, nombre, [] {})->setEnabled(false);
+    QAction* a = accion(mnuEdicion_, e.nombre, e.alElegir);
+    a->setShortcuts(e.atajos);
   }
   mnuEdicionAccion_ = mnuEdicion_->menuAction();
+  connect(mnuEdicion_, &QMenu::aboutToShow, this, [this] { ActualizarBotones(); });
+
+  // The context menu of the page: the same entries, and the worksheet's
+  // properties, which come with the setup dialog.
+  cmnuEdicion_ = new QMenu(this);
+  cmnuEdicion_->setObjectName(QStringLiteral("cmnu_edicion"));
+  cmnuEdicion_->addActions(mnuEdicion_->actions());
+  cmnuEdicion_->addSeparator();
+  auto* propiedades = cmnuEdicion_->addAction(QString());
+  propiedades->setObjectName(QStringLiteral("cmnu_Edicion_COLEC_Prop"));
+  propiedades->setVisible(false);
 
   mnuColec_ = menuBar()->addMenu(QString());
   mnuColec_->setObjectName(QStringLiteral("mnu_COLEC"));
@@ -331,6 +372,11 @@ void FormMain::CreaBarra() {
   connect(boton_[0], &QAction::triggered, this, [this] { mnu_File_Open(); });
   connect(boton_[2], &QAction::triggered, this, [this] { mnu_File_Save(); });
   connect(boton_[3], &QAction::triggered, this, [this] { Regenerar(); });
+  for (auto [i, nombre] : {std::pair{4, "mnu_Edicion_Undo"}, {5, "mnu_Edicion_Redo"}, {6, "mnu_Edicion_Cut"},
+                           {7, "mnu_Edicion_Copy"}, {8, "mnu_Edicion_Paste"}}) {
+    QAction* entrada = findChild<QAction*>(QLatin1String(nombre));
+    connect(boton_[i], &QAction::triggered, entrada, &QAction::trigger);
+  }
   // Zoom and Help pop up their menus; the menus stay in the menu bar too.
   for (auto [i, menu] : {std::pair{10, mnuZoom_}, std::pair{11, mnuHelp_}})
     if (auto* b = qobject_cast<QToolButton*>(tbToolbar1_->widgetForAction(boton_[i]))) {
@@ -458,6 +504,32 @@ void FormMain::SinDocumento() {
 void FormMain::ActualizarBotones() {
   const bool edicion = HayProblemas() && botonesEdicion_;
   for (int i = 4; i <= 8; ++i) mostrado_[i] = edicion;
+  // What the Edit menu, its context menu and the edit group may do now.
+  const EstadoEdicion e = Estado(n_->doc);
+  const bool pegar = HayProblemas() && !Ocupada() && pegable_ &&
+                     static_cast<int>(n_->doc.col.problemas.size()) < kMaxProblemas;
+  const std::pair<const char*, bool> habilitados[] = {
+      {"mnu_Edicion_Undo", e.deshacer},       {"mnu_Edicion_Redo", e.rehacer},
+      {"mnu_Edicion_Cut", e.sobreSeleccion},  {"mnu_Edicion_Copy", e.sobreSeleccion},
+      {"mnu_Edicion_Paste", pegar},           {"mnu_Edicion_Del", e.sobreSeleccion},
+      {"mnu_Edicion_Mover0", e.alPrincipio},  {"mnu_Edicion_Mover1", e.alFinal},
+      {"mnu_Edicion_Mover2", e.alPrincipio},  {"mnu_Edicion_Mover3", e.alFinal},
+      {"mnu_Edicion_REGEN1", e.sobreSeleccion}, {"mnu_Edicion_INS", e.pegarSimilar}};
+  for (const auto& [nombre, activo] : habilitados) findChild<QAction*>(QLatin1String(nombre))->setEnabled(activo);
+  // Undo and Redo name the action they take back or do again.
+  const Documento& doc = n_->doc;
+  const QString deshacer = doc.deshacerValido ? T("Edit_Undo1") + u' ' + DeTexto(doc.accionDeshacer) : T("Edit_Undo0");
+  const QString rehacer = doc.rehacerValido ? T("Edit_Redo1") + u' ' + DeTexto(doc.accionRehacer) : T("Edit_Redo0");
+  findChild<QAction*>(QStringLiteral("mnu_Edicion_Undo"))->setText(deshacer);
+  findChild<QAction*>(QStringLiteral("mnu_Edicion_Redo"))->setText(rehacer);
+  boton_[4]->setToolTip(QString(deshacer).remove(u'&'));
+  boton_[5]->setToolTip(QString(rehacer).remove(u'&'));
+  if (HayProblemas()) {
+    activo_[4] = e.deshacer;
+    activo_[5] = e.rehacer;
+    activo_[6] = activo_[7] = e.sobreSeleccion;
+    activo_[8] = pegar;
+  }
   for (int i = 0; i < kBotones; ++i) {
     boton_[i]->setVisible(mostrado_[i]);
     boton_[i]->setEnabled(mostrado_[i] && activo_[i]);
@@ -514,9 +586,13 @@ void FormMain::PintarPagina() {
     doc.marcas.clear();
     return;
   }
-  TrabajoOcupado ocupado(n_->s);
-  lbPage_->setText(QStringLiteral("%1 %2/%3").arg(T("Pag")).arg(doc.paginaActual).arg(doc.numPaginas));
-  vista_->PintarPagina(doc, n_->motor, doc.paginaActual);
+  {
+    TrabajoOcupado ocupado(n_->s);
+    lbPage_->setText(QStringLiteral("%1 %2/%3").arg(T("Pag")).arg(doc.paginaActual).arg(doc.numPaginas));
+    vista_->PintarPagina(doc, n_->motor, doc.paginaActual);
+  }
+  // New marks: nothing is selected any more.
+  ActualizarBotones();
 }
 
 // After every command: the page, the buttons, the marks of the menus.
@@ -768,24 +844,105 @@ void FormMain::mnu_File_Reciente(int i) {
 void FormMain::mnu_COLEC_RECREAR() {
   if (Ocupada() || !HayProblemas()) return;
   vista_->Espera(true, T("Lbl_Wait"));
-  RecrearColeccion(n_->s);
+  RecrearTodo(n_->s);
   vista_->Espera(false);
   Refresca();
 }
 
 void FormMain::PosicionSoluciones(int possol) {
-  if (Ocupada() || !HayProblemas() || n_->doc.col.cab.POSSOL == possol) {
-    ActualizaMenusCheckeados();
-    return;
-  }
-  n_->doc.col.cab.POSSOL = possol;
-  ArmarBloques(n_->s, 0);
-  Refresca();
+  Comando([this, possol] { return PonPosicionSoluciones(n_->s, possol); });
+  ActualizaMenusCheckeados();
 }
 
-// The Re-create button: the whole worksheet, as long as no single problem
-// can be selected on the page.
-void FormMain::Regenerar() { mnu_COLEC_RECREAR(); }
+// ---- editing on the page -----------------------------------------------------------
+
+// A command of the Edit or Worksheet menu: nothing while a job runs; the
+// window brought up to date after it.
+void FormMain::Comando(const std::function<bool()>& hacer, bool mantenScroll) {
+  if (Ocupada()) return;
+  QScrollBar* barra = vista_->verticalScrollBar();
+  const int posicion = barra->value();
+  hacer();
+  Refresca();
+  if (mantenScroll) barra->setValue(posicion);
+}
+
+void FormMain::mnu_Edicion_Copy() {
+  if (Ocupada()) return;
+  if (const auto texto = Copiar(n_->s)) {
+    QGuiApplication::clipboard()->clear();
+    QGuiApplication::clipboard()->setText(DeTexto(*texto));
+    pegable_ = true;
+    ActualizarBotones();
+  }
+}
+
+void FormMain::mnu_Edicion_Cut() {
+  if (Ocupada() || ProblemaSeleccionado(n_->doc) == 0) return;
+  mnu_Edicion_Copy();
+  Comando([this] { return Borrar(n_->s); });
+}
+
+void FormMain::mnu_Edicion_Paste() {
+  if (Ocupada()) return;
+  const std::string texto = TextoDelPortapapeles();
+  // With a selection the page stays where it was.
+  const bool seleccion = Seleccionadas(n_->doc) > 0;
+  Comando(
+      [&] {
+        if (Pegar(n_->s, texto) == Pegado::NoEsProblema) pegable_ = false;
+        return true;
+      },
+      seleccion);
+}
+
+void FormMain::mnu_Edicion_REGEN1() {
+  Comando([this] { return RecrearEste(n_->s); }, true);
+}
+
+// The clipboard's text in the worksheet's character set; a text with a
+// character that has no form there carries no problem, and reads as empty.
+std::string FormMain::TextoDelPortapapeles() const {
+  bool exacto = true;
+  std::string texto = Utf8ToCp1252(QGuiApplication::clipboard()->text().toUtf8().toStdString(), &exacto);
+  return exacto ? texto : std::string();
+}
+
+// Paste is offered while the clipboard holds a whole problem.
+void FormMain::RevisaPortapapeles() {
+  const bool pegable = LeePortapapeles(TextoDelPortapapeles()).has_value();
+  if (pegable == pegable_) return;
+  pegable_ = pegable;
+  ActualizarBotones();
+}
+
+void FormMain::changeEvent(QEvent* e) {
+  QMainWindow::changeEvent(e);
+  if (e->type() == QEvent::ActivationChange && isActiveWindow()) RevisaPortapapeles();
+}
+
+void FormMain::AlPulsar(Qt::MouseButton boton, double x, double y, QPoint global) {
+  Documento& doc = n_->doc;
+  if (Ocupada() || doc.marcas.empty() || doc.col.problemas.empty()) return;
+  if (boton == Qt::RightButton) {
+    ActualizarBotones();
+    cmnuEdicion_->popup(global);
+    return;
+  }
+  if (ClicEnPagina(doc, x, y)) {
+    vista_->MuestraSeleccion();
+    ActualizarBotones();
+  }
+}
+
+// The Re-create button: the selected problem, or the whole worksheet when
+// none is selected.
+void FormMain::Regenerar() {
+  if (ProblemaSeleccionado(n_->doc) != 0)
+    mnu_Edicion_REGEN1();
+  else
+    mnu_COLEC_RECREAR();
+}
 
 void FormMain::Zoom(double zoom) {
   if (Ocupada()) {

@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include <array>
+#include <functional>
 #include <memory>
 
 #include "worksheet/plataforma.h"
@@ -70,6 +71,7 @@ class FormMain final : public QMainWindow, public Plataforma {
   void dragEnterEvent(QDragEnterEvent* e) override;
   void dropEvent(QDropEvent* e) override;
   bool eventFilter(QObject* objeto, QEvent* e) override;
+  void changeEvent(QEvent* e) override;
 
  private:
   struct Nucleo;
@@ -108,6 +110,14 @@ class FormMain final : public QMainWindow, public Plataforma {
   void mnu_COLEC_RECREAR();
   void PosicionSoluciones(int possol);
   void Regenerar();
+  void Comando(const std::function<bool()>& hacer, bool mantenScroll = false);
+  void mnu_Edicion_Copy();
+  void mnu_Edicion_Cut();
+  void mnu_Edicion_Paste();
+  void mnu_Edicion_REGEN1();
+  std::string TextoDelPortapapeles() const;
+  void RevisaPortapapeles();
+  void AlPulsar(Qt::MouseButton boton, double x, double y, QPoint global);
   void Zoom(double zoom);
   void mnu_setup_zoomANCHO();
   void AjustaAncho();
@@ -138,6 +148,7 @@ class FormMain final : public QMainWindow, public Plataforma {
         *mnuZoom_ = nullptr, *mnuSysedu_ = nullptr, *mnuHelp_ = nullptr;
   QAction *mnuEdicionAccion_ = nullptr, *mnuColecAccion_ = nullptr, *mnuSyseduAccion_ = nullptr;
   QAction* zep04_ = nullptr;
+  QMenu* cmnuEdicion_ = nullptr;
   std::array<QAction*, 9> reciente_{};
   std::array<QAction*, 4> solucion_{};
   std::array<QAction*, 6> zoom_{};  // 50, 75, 100, 150, 200 %, fit to width
@@ -153,6 +164,7 @@ class FormMain final : public QMainWindow, public Plataforma {
   bool ajusteAncho_ = false;
   bool activado_ = false;
   bool cursorEspera_ = false;
+  bool pegable_ = false;  // the clipboard holds a problem
   QString carpetaInicial_;
 };
 

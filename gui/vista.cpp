@@ -1,6 +1,8 @@
 #include "gui/vista.h"
 
+#include <QMouseEvent>
 #include <QPainter>
+#include <QPixmap>
 #include <QResizeEvent>
 #include <QScrollBar>
 #include <QStyle>
@@ -11,7 +13,9 @@
 #include "typeset/canvas_qt.h"
 #include "typeset/motor.h"
 #include "worksheet/armado.h"
+#include "worksheet/carpetas.h"
 #include "worksheet/coleccion.h"
+#include "worksheet/edicion.h"
 #include "worksheet/inicio.h"
 
 namespace ss {
@@ -31,10 +35,27 @@ class VistaPagina::Lienzo final : public QWidget {
   explicit Lienzo(VistaPagina& v) : QWidget(nullptr), v_(v) {
     setObjectName(QStringLiteral("Picture1"));
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
   }
   QRect Hoja() const {
     return {kIzquierda, kArriba, static_cast<int>(std::lround(kAnchoHojaPx * v_.zoom_)),
             static_cast<int>(std::lround(kAltoHojaPx * v_.zoom_))};
+  }
+  // A point of the widget as a point of the page, in twips at zoom 1.
+  QPointF EnPagina(QPointF p) const {
+    return (p - QPointF(kIzquierda, kArriba)) * (kTwipsPorPixel / v_.zoom_);
+  }
+  // The edit pointer over the text area of a worksheet with strips, the
+  // normal one elsewhere; changed only when the mode changes.
+  void Puntero(QPointF p) {
+    const bool edicion = v_.doc_ && !v_.doc_->marcas.empty() && !v_.doc_->col.problemas.empty() &&
+                         EnPagina(p).x() < LimiteEdicion();
+    if (edicion == edicion_) return;
+    edicion_ = edicion;
+    if (edicion)
+      setCursor(PunteroEdicion());
+    else
+      unsetCursor();
   }
 
  protected:
@@ -47,10 +68,37 @@ class VistaPagina::Lienzo final : public QWidget {
       p.fillRect(hoja, Qt::white);
     else
       p.drawImage(hoja, v_.imagen_);
+    // A selected strip shows inverted, from the left margin to the right one.
+    if (!v_.doc_) return;
+    p.setCompositionMode(QPainter::CompositionMode_Difference);
+    const double k = v_.zoom_ / kTwipsPorPixel;
+    for (const MarcaPagina& m : v_.doc_->marcas)
+      if (m.Seleccionada)
+        p.fillRect(QRectF(hoja.left() + v_.izquierda_ * k, hoja.top() + m.MarcaArriba * k,
+                          (v_.derecha_ - v_.izquierda_) * k, (m.MarcaAbajo - m.MarcaArriba) * k),
+                   Qt::white);
+  }
+  void mouseMoveEvent(QMouseEvent* e) override { Puntero(e->position()); }
+  void mousePressEvent(QMouseEvent* e) override {
+    Puntero(e->position());
+    if (!Hoja().contains(e->position().toPoint())) return;  // the matte around the sheet
+    const QPointF en = EnPagina(e->position());
+    if (v_.alPulsar) v_.alPulsar(e->button(), en.x(), en.y(), e->globalPosition().toPoint());
   }
 
  private:
+  static const QCursor& PunteroEdicion() {
+    static const QCursor puntero = [] {
+      const QPixmap imagen(CarpetaDatos() + QStringLiteral("/img/edit_pointer.png"));
+      if (imagen.isNull()) return QCursor(Qt::PointingHandCursor);
+      // The picture points right, at the middle of its right edge.
+      return QCursor(imagen, imagen.width() - 1, imagen.height() / 2);
+    }();
+    return puntero;
+  }
+
   VistaPagina& v_;
+  bool edicion_ = false;
 };
 
 VistaPagina::VistaPagina(QWidget* parent) : QScrollArea(parent), lienzo_(new Lienzo(*this)) {
@@ -84,8 +132,11 @@ double VistaPagina::AnchoUtil() const {
   return width() - 2 * frameWidth() - style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
 }
 
+void VistaPagina::MuestraSeleccion() { lienzo_->update(); }
+
 void VistaPagina::Limpia() {
   imagen_ = QImage();
+  doc_ = nullptr;
   hojaVisible_ = false;
   MuestraHoja();
 }
@@ -110,6 +161,7 @@ void VistaPagina::PintarPagina(Documento& doc, Motor& motor, int pagina) {
   imagen_.setDevicePixelRatio(dpr);
   imagen_.fill(Qt::white);
   doc.marcas.clear();
+  doc_ = &doc;
   if (!doc.col.problemas.empty() && pagina >= 1 && pagina <= doc.numPaginas) {
     QPainter painter(&imagen_);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -124,6 +176,8 @@ void VistaPagina::PintarPagina(Documento& doc, Motor& motor, int pagina) {
       motor.ComponerTexto(TextoPagina(doc, pagina), 12, canvas);
       for (const MarcaTexto& m : motor.marcas)
         doc.marcas.push_back(MarcaPagina{m.arriba, m.abajo, false, m.numero == 0 ? 1000 : m.numero});
+      izquierda_ = motor.MargenIzq;
+      derecha_ = motor.AnchoPagina - motor.MargenDer;
       DibujaNumeroPagina(motor, canvas, pagina, doc.col.cab.PAGINI, doc.col.cab.POSNUMPAG);
     }
     motor.Zoom = zoomMotor;

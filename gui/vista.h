@@ -4,6 +4,7 @@
 // that image again.
 #pragma once
 
+#include <QCursor>
 #include <QImage>
 #include <QScrollArea>
 
@@ -41,6 +42,12 @@ class VistaPagina final : public QScrollArea {
 
   // Called when the view's width changes.
   std::function<void()> alCambiarAncho;
+  // A press of a mouse button on the sheet, at a point of the page in twips
+  // at zoom 1, and where on the screen.
+  std::function<void(Qt::MouseButton boton, double x, double y, QPoint global)> alPulsar;
+
+  // The selected strips of the page last drawn are shown inverted.
+  void MuestraSeleccion();
 
  protected:
   void wheelEvent(QWheelEvent* e) override;
@@ -53,6 +60,8 @@ class VistaPagina final : public QScrollArea {
   friend class Lienzo;
   Lienzo* lienzo_;
   QImage imagen_;
+  const Documento* doc_ = nullptr;  // the worksheet last drawn, for its selected strips
+  double izquierda_ = 0, derecha_ = 0;  // the text area's edges, twips
   double zoom_ = 1;
   int ruedaAcumulada_ = 0;
   bool espera_ = false;

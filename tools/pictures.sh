@@ -25,6 +25,7 @@ for name in tb_open tb_new tb_save tb_recreate tb_undo tb_redo tb_cut tb_copy \
             tb_paste tb_print tb_zoom tb_help; do
   both "$name" 32
 done
+both edit_pointer 32
 for name in page_left page_left_pressed page_right page_right_pressed; do
   both "$name" 24
 done

@@ -115,6 +115,13 @@ struct Documento {
   std::vector<int> cortados;  // blocks (from 1) taller than a page, each cut on a page of its own
   bool Modificada = false;   // differs from its file
   int AppBusy = 0;           // jobs running that let events through; > 0 means busy
+
+  // One step of undo and one of redo: whole copies of the worksheet (header
+  // and problems, texts included), and the words of the action each one
+  // takes back or does again, as the Edit menu shows them.
+  Coleccion deshacer, rehacer;
+  bool deshacerValido = false, rehacerValido = false;
+  std::string accionDeshacer, accionRehacer;
 };
 
 }  // namespace ss

@@ -20,6 +20,7 @@
 
 #include "problems/texto.h"
 #include "worksheet/armado.h"
+#include "worksheet/edicion.h"
 
 namespace ss {
 
@@ -704,9 +705,10 @@ bool CargarColeccion(Sesion& s) {
   // The pictures the texts name.
   if (adj.hay) DesempaquetaImagenes(s, adj, doc.col);
 
-  // The pages.
+  // The pages; nothing of the worksheet before can be taken back.
   ArmarBloques(s, 1);
   doc.Modificada = false;
+  SetUNDOTexto(s, {});
 
   // The window shows the file.
   pl.TituloVentana(TituloApp() + QStringLiteral("  -  ") + QFileInfo(ruta).fileName());

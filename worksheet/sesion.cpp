@@ -13,6 +13,10 @@ void NoColeccion(Sesion& s) {
   s.doc.numPaginas = 0;
   s.doc.cortados.clear();
   s.doc.Modificada = false;
+  // Without a worksheet there is nothing to take back or do again.
+  s.doc.deshacerValido = s.doc.rehacerValido = false;
+  s.doc.accionDeshacer.clear();
+  s.doc.accionRehacer.clear();
   s.plataforma.EstadoDocumento(false);
   s.plataforma.TituloVentana(TituloApp());
 }

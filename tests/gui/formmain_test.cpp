@@ -5,10 +5,14 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QDir>
 #include <QDropEvent>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -16,6 +20,7 @@
 #include <QProcess>
 #include <QScrollBar>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -31,8 +36,14 @@
 #include "gui/vista.h"
 #include "problems/texto.h"
 #include "worksheet/ajustes.h"
+#include "worksheet/colfile.h"
 #include "worksheet/coleccion.h"
+#include "worksheet/edicion.h"
 #include "worksheet/sesion.h"
+
+QT_BEGIN_NAMESPACE
+inline void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
+QT_END_NAMESPACE
 
 namespace ss {
 namespace {
@@ -102,6 +113,23 @@ QString TextoDe(const std::string& clave) {
   TextosVentana t(QCoreApplication::applicationDirPath().toStdString(), "MAI");
   t.LoadIdioma();
   return QString::fromStdString(Cp1252ToUtf8(t.GetL_win(clave)));
+}
+
+
+// The point of the sheet widget over the middle of the strip of problem i
+// on the page shown (a null point when it is not on this page).
+QPoint SobreProblema(FormMain& w, int i) {
+  const Documento& d = w.documento();
+  for (const MarcaPagina& m : d.marcas) {
+    if (std::abs(d.bloques[static_cast<std::size_t>(m.MarcaNumero - 1)].Problema) != i) continue;
+    const double z = w.vista().Zoom();
+    return QPoint(8 + qRound(150 * z), 5 + qRound((m.MarcaArriba + m.MarcaAbajo) / 2 / 15 * z));
+  }
+  return {};
+}
+
+void Clic(FormMain& w, QPoint p, Qt::MouseButton b = Qt::LeftButton) {
+  QTest::mouseClick(w.vista().Hoja(), b, Qt::NoModifier, p);
 }
 
 class Ventana : public ::testing::Test {
@@ -512,10 +540,168 @@ TEST_F(Ventana, TheStartPanelOpensEachExample) {
   }
 }
 
+
+TEST_F(Ventana, AClickSelectsTheStripUnderItAtAnyZoomAndTheMenusFollow) {
+  almacen->Escribe("INI_WIN", "SHOW", "0");
+  Abre({H().varias});
+  QApplication::clipboard()->clear();
+  for (const char* zoom : {"mnu_setup_zoom100", "mnu_setup_zoom200"}) {
+    SCOPED_TRACE(zoom);
+    A(zoom)->trigger();
+    const QPoint p2 = SobreProblema(*w, 2);
+    ASSERT_FALSE(p2.isNull());
+    const QImage antes = w->vista().Hoja()->grab().toImage();
+    Clic(*w, p2);
+    EXPECT_EQ(ProblemaSeleccionado(doc()), 2);
+    // The strip shows inverted: its white turned dark.
+    const QImage despues = w->vista().Hoja()->grab().toImage();
+    const QPoint fondo(p2.x() + qRound(300 * w->vista().Zoom()), p2.y());
+    EXPECT_EQ(antes.pixelColor(fondo), QColor(Qt::white));
+    EXPECT_LT(despues.pixelColor(fondo).lightness(), 30);
+    EXPECT_TRUE(A("mnu_Edicion_Cut")->isEnabled() && A("mnu_Edicion_Copy")->isEnabled() && A("mnu_Edicion_Mover0")->isEnabled());
+    EXPECT_FALSE(A("mnu_Edicion_Paste")->isEnabled());  // nothing on the clipboard
+    Clic(*w, SobreProblema(*w, 1));
+    EXPECT_EQ(ProblemaSeleccionado(doc()), 1);
+    EXPECT_FALSE(A("mnu_Edicion_Mover0")->isEnabled() || A("mnu_Edicion_Mover2")->isEnabled());
+    Clic(*w, SobreProblema(*w, 1));  // the selected strip again: cleared
+    EXPECT_EQ(Seleccionadas(doc()), 0);
+    EXPECT_FALSE(A("mnu_Edicion_Cut")->isEnabled() || A("mnu_Edicion_Copy")->isEnabled());
+    Clic(*w, p2);
+    Clic(*w, QPoint(8 + qRound(770 * w->vista().Zoom()), p2.y()));  // the right margin clears all
+    EXPECT_EQ(Seleccionadas(doc()), 0);
+    EXPECT_EQ(w->vista().Hoja()->grab().toImage(), antes);
+  }
+  // The right button opens the context menu with the same entries.
+  Clic(*w, SobreProblema(*w, 2));
+  QMenu* contexto = w->findChild<QMenu*>("cmnu_edicion");
+  QTimer::singleShot(50, contexto, &QMenu::close);
+  Clic(*w, SobreProblema(*w, 2), Qt::RightButton);
+  EXPECT_TRUE(contexto->actions().contains(A("mnu_Edicion_Cut")));
+  EXPECT_EQ(ProblemaSeleccionado(doc()), 2) << "the right button keeps the selection";
+}
+
+TEST_F(Ventana, EditingThroughTheMenusWithUndoAndRedoCaptionsAndTheClipboard) {
+  almacen->Escribe("INI_WIN", "SHOW", "0");
+  almacen->Escribe("Ver", "EdicBotones", "S");
+  Abre({H().varias});
+  const int n = static_cast<int>(doc().col.problemas.size());
+  const std::string tercero = doc().col.problemas[2].Enunciado;
+  EXPECT_EQ(A("mnu_Edicion_Undo")->text(), TextoDe("Edit_Undo0"));
+  EXPECT_FALSE(A("mnu_Edicion_Undo")->isEnabled() || w->Boton(4)->isEnabled());
+  // Copy the third problem, delete it, paste it back at the front.
+  Clic(*w, SobreProblema(*w, 3));
+  A("mnu_Edicion_Copy")->trigger();
+  EXPECT_TRUE(A("mnu_Edicion_Paste")->isEnabled() && w->Boton(8)->isEnabled());
+  EXPECT_TRUE(w->Boton(6)->isEnabled()) << "copying keeps the selection";
+  w->Boton(6)->trigger();  // Cut
+  EXPECT_EQ(static_cast<int>(doc().col.problemas.size()), n - 1);
+  EXPECT_EQ(A("mnu_Edicion_Undo")->text(), TextoDe("Edit_Undo1") + " " + TextoDe("Edit_Del").remove('&'));
+  EXPECT_EQ(Seleccionadas(doc()), 0);
+  A("mnu_Edicion_Paste")->trigger();  // nothing selected: to the front
+  EXPECT_EQ(doc().col.problemas.front().Enunciado, tercero);
+  A("mnu_Edicion_Undo")->trigger();
+  EXPECT_EQ(static_cast<int>(doc().col.problemas.size()), n - 1);
+  EXPECT_EQ(A("mnu_Edicion_Redo")->text(), TextoDe("Edit_Redo1") + "  " + TextoDe("Edit_Paste").remove('&'));
+  EXPECT_FALSE(A("mnu_Edicion_Undo")->isEnabled());
+  A("mnu_Edicion_Redo")->trigger();
+  EXPECT_EQ(doc().col.problemas.front().Enunciado, tercero);
+  EXPECT_EQ(A("mnu_Edicion_Undo")->text(), TextoDe("Edit_Undo1") + "  " + TextoDe("Edit_Paste").remove('&'));
+  // Text that is no problem, however it begins, turns Paste off.
+  QApplication::clipboard()->setText("GENPROB:NPROB=001:" + QString(100, 'x'));
+  EXPECT_FALSE(A("mnu_Edicion_Paste")->isEnabled() || w->Boton(8)->isEnabled());
+  // The toolbar's Re-create takes the selected problem alone, and the page stays where it was.
+  A("mnu_setup_zoom200")->trigger();
+  QScrollBar* v = w->vista().verticalScrollBar();
+  v->setValue(v->maximum() / 3);
+  const QPoint p = SobreProblema(*w, 2);
+  const int posicion = v->value();
+  Clic(*w, p);
+  const auto otros = doc().col.problemas[0].Enunciado;
+  w->Boton(3)->trigger();
+  EXPECT_EQ(doc().col.problemas[0].Enunciado, otros);
+  EXPECT_EQ(A("mnu_Edicion_Undo")->text(), TextoDe("Edit_Undo1") + " " + TextoDe("Edit_ReCreatePro").remove('&'));
+  EXPECT_EQ(v->value(), posicion);
+  EXPECT_TRUE(w->isWindowModified() && doc().ruta.isEmpty());
+}
+
+// Two windows of two processes on one X display: a problem copied in the
+// first pastes in the second.
+TEST(OtroProceso, AProblemCopiedInOneWindowPastesInAnother) {
+  const QString xvfb = QStandardPaths::findExecutable("Xvfb");
+  ASSERT_FALSE(xvfb.isEmpty()) << "the test runs two windows on Xvfb (Debian package xvfb)";
+  QProcess pantalla;
+  pantalla.start(xvfb, {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
+  ASSERT_TRUE(pantalla.waitForReadyRead(20000));
+  const QString numero = QString::fromLatin1(pantalla.readAllStandardOutput()).trimmed();
+  QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+  env.insert("DISPLAY", ":" + numero);
+  env.insert("QT_QPA_PLATFORM", "xcb");
+  QTemporaryDir dir;
+  const QString salida = dir.filePath("pasted.col");
+  QProcess copia, pega;
+  for (QProcess* p : {&copia, &pega}) {
+    p->setProcessEnvironment(env);
+    p->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+  }
+  copia.start(QCoreApplication::applicationFilePath(), {"--rol", "copia", H().varias, "3"});
+  ASSERT_TRUE(copia.waitForStarted(20000));
+  bool copiado = false;
+  for (int i = 0; i < 100 && !copiado && copia.state() == QProcess::Running; ++i)
+    copiado = copia.waitForReadyRead(300) && copia.readAllStandardOutput().contains("copied");
+  ASSERT_TRUE(copiado);
+  pega.start(QCoreApplication::applicationFilePath(), {"--rol", "pega", H().una, salida});
+  ASSERT_TRUE(pega.waitForFinished(60000));
+  EXPECT_EQ(pega.exitCode(), 0) << pega.readAllStandardOutput().toStdString();
+  copia.terminate();
+  copia.waitForFinished(10000);
+  pantalla.terminate();
+  pantalla.waitForFinished(10000);
+
+  // The pasted worksheet leads with the problem that was copied, recipe and texts.
+  auto info = [](const QString& ruta) {
+    QProcess p;
+    p.start(QStringLiteral(SS_CLI_PATH), {"info", ruta});
+    p.waitForFinished(60000);
+    return QJsonDocument::fromJson(p.readAllStandardOutput()).object()["problems"].toArray();
+  };
+  const QJsonArray pegados = info(salida), origen = info(H().varias);
+  ASSERT_EQ(pegados.size(), 3);
+  EXPECT_EQ(pegados[0], origen[2]);
+}
 }  // namespace
 }  // namespace ss
 
+// The same program in the part of one window of the clipboard test:
+//   --rol copia FILE N   opens FILE, copies problem N, says "copied" and stays
+//   --rol pega FILE OUT  opens FILE, pastes what the clipboard holds, saves OUT
+int Rol(int argc, char** argv) {
+  using namespace ss;
+  QApplication app(argc, argv);
+  const QStringList a = QApplication::arguments();
+  if (a.size() < 5) return 2;
+  AlmacenMemoria almacen;
+  almacen.Escribe("INI_WIN", "SHOW", "0");
+  Guion guion;
+  FormMain w(almacen, guion, {a[3]});
+  w.show();
+  if (!QTest::qWaitFor([&] { return w.documento().numPaginas > 0; }, 20000)) return 3;
+  QAction* pegar = w.findChild<QAction*>("mnu_Edicion_Paste");
+  if (a[2] == "copia") {
+    Clic(w, SobreProblema(w, a[4].toInt()));
+    w.findChild<QAction*>("mnu_Edicion_Copy")->trigger();
+    if (!pegar->isEnabled()) return 4;
+    std::printf("copied\n");
+    std::fflush(stdout);
+    return QApplication::exec();
+  }
+  if (!QTest::qWaitFor([&] { return pegar->isEnabled(); }, 20000)) return 5;
+  pegar->trigger();
+  w.documento().ruta = a[4];
+  return GuardarColeccion(w.sesion()) ? 0 : 6;
+}
+
 int main(int argc, char** argv) {
+  if (argc > 1 && std::string(argv[1]) == "--rol") return Rol(argc, argv);
   qputenv("QT_QPA_PLATFORM", "offscreen");
   ::testing::InitGoogleTest(&argc, argv);
   QApplication app(argc, argv);
