@@ -862,7 +862,11 @@ void FormMain::Comando(const std::function<bool()>& hacer, bool mantenScroll) {
   if (Ocupada()) return;
   QScrollBar* barra = vista_->verticalScrollBar();
   const int posicion = barra->value();
-  hacer();
+  if (!hacer()) {
+    // Nothing changed on the page; the menus may have (an undo step, Paste).
+    ActualizarBotones();
+    return;
+  }
   Refresca();
   if (mantenScroll) barra->setValue(posicion);
 }
@@ -890,8 +894,9 @@ void FormMain::mnu_Edicion_Paste() {
   const bool seleccion = Seleccionadas(n_->doc) > 0;
   Comando(
       [&] {
-        if (Pegar(n_->s, texto) == Pegado::NoEsProblema) pegable_ = false;
-        return true;
+        const Pegado r = Pegar(n_->s, texto);
+        if (r == Pegado::NoEsProblema) pegable_ = false;
+        return r == Pegado::Hecho;
       },
       seleccion);
 }
