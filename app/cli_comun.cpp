@@ -161,26 +161,18 @@ ss::Reemplazos NotacionPorDefecto(Servicios& servicios) {
 
 bool Catalogo(Servicios& servicios, const QString& sysedu, std::vector<std::string>& catalogo,
               std::vector<std::string>* asignaturas) {
-  ss::GenContext g(&servicios.mensajes);
-  std::unique_ptr<ss::SilaboSed> silabo;
-  if (!sysedu.isEmpty()) {
-    silabo = std::make_unique<ss::SilaboSed>(CarpetaPrograma(), sysedu.toStdString(),
-                                             [](const std::string& aviso) { Aviso(DeCp1252(aviso)); });
-    silabo->Carga();
-    if (silabo->NumAsignaturas() == 0 || !silabo->TextosCargados()) {
-      Error(QStringLiteral("the education system '%1' has no usable subjects in the program folder %2")
-                .arg(sysedu, ss::CarpetaDatos()));
-      return false;
-    }
-    g.silabo = silabo.get();
+  ss::Temario temario(ss::CarpetaDatos(), servicios.mensajes,
+                      [](const std::string& aviso) { Aviso(DeCp1252(aviso)); });
+  temario.Carga(sysedu);
+  if (const ss::SilaboSed* silabo = temario.Silabo();
+      silabo && (silabo->NumAsignaturas() == 0 || !silabo->TextosCargados())) {
+    Error(QStringLiteral("the education system '%1' has no usable subjects in the program folder %2")
+              .arg(sysedu, ss::CarpetaDatos()));
+    return false;
   }
-  ss::ListaProblemas(g, catalogo);
-  if (silabo) {
-    std::vector<std::string> nombres;
-    for (const ss::Asignatura& a : silabo->Asignaturas()) nombres.push_back(a.nombre);
-    ss::OrdenaPorAsignaturas(catalogo, nombres);
-    if (asignaturas) *asignaturas = std::move(nombres);
-  }
+  catalogo = temario.Catalogo();
+  if (asignaturas && temario.Silabo())
+    for (const ss::Asignatura& a : temario.Silabo()->Asignaturas()) asignaturas->push_back(a.nombre);
   return true;
 }
 

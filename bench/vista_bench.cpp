@@ -75,6 +75,7 @@ struct Callados final : ss::Dialogos {
   QString FicheroAbrir(QWidget*, const QString&, const QString&, const QString&) override { return {}; }
   QString FicheroGuardar(QWidget*, const QString&, const QString&, const QString&) override { return {}; }
   ss::RespuestaPanel PanelInicio(ss::FormIniOpt&) override { return {}; }
+  void Modal(QDialog&) override {}
   bool LanzaPrograma(const QString&) override { return false; }
   bool AbreConEscritorio(const QUrl&) override { return false; }
   void TerminaYa() override {}

@@ -58,6 +58,8 @@ RespuestaPanel DialogosQt::PanelInicio(FormIniOpt& panel) {
   return {panel.ComandoInicio(), panel.Mostrar()};
 }
 
+void DialogosQt::Modal(QDialog& dialogo) { dialogo.exec(); }
+
 bool DialogosQt::LanzaPrograma(const QString& ruta) {
   return QProcess::startDetached(QCoreApplication::applicationFilePath(), {ruta});
 }

@@ -7,6 +7,7 @@
 
 #include "worksheet/plataforma.h"
 
+class QDialog;
 class QUrl;
 class QWidget;
 
@@ -41,6 +42,9 @@ class Dialogos {
 
   // Shows the start panel modally.
   virtual RespuestaPanel PanelInicio(FormIniOpt& panel) = 0;
+  // Runs one of the program's own dialogs (the wizard, the settings) modally;
+  // what it leaves behind is read from the dialog afterwards.
+  virtual void Modal(QDialog& dialogo) = 0;
 
   // Starts this program again on a file; false when it could not be started.
   virtual bool LanzaPrograma(const QString& ruta) = 0;
@@ -62,6 +66,7 @@ class DialogosQt final : public Dialogos {
   QString FicheroGuardar(QWidget* padre, const QString& titulo, const QString& propuesta,
                          const QString& filtro) override;
   RespuestaPanel PanelInicio(FormIniOpt& panel) override;
+  void Modal(QDialog& dialogo) override;
   bool LanzaPrograma(const QString& ruta) override;
   bool AbreConEscritorio(const QUrl& url) override;
   void TerminaYa() override;

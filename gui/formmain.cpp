@@ -32,6 +32,8 @@
 #include "gui/dialogos.h"
 #include "gui/formacerca.h"
 #include "gui/forminiopt.h"
+#include "gui/frmsetup.h"
+#include "gui/frmwizard.h"
 #include "gui/vista.h"
 #include "problems/generic.h"
 #include "problems/idioma.h"
@@ -41,12 +43,14 @@
 #include "typeset/motor.h"
 #include "worksheet/ajustes.h"
 #include "worksheet/armado.h"
+#include "worksheet/asistente.h"
 #include "worksheet/carpetas.h"
 #include "worksheet/colfile.h"
 #include "worksheet/commands.h"
 #include "worksheet/edicion.h"
 #include "worksheet/inicio.h"
 #include "worksheet/sesion.h"
+#include "worksheet/temario.h"
 
 namespace ss {
 namespace {
@@ -105,7 +109,9 @@ struct FormMain::Nucleo {
         gen(&mensajes),
         textos(datos.toStdString(), "MAI"),
         textosPanel(datos.toStdString(), "INO"),
-        s{doc, pl, gen, motor, oculta, textos, Carpetas{datos, temporal.Ruta()}} {
+        textosWiz(datos.toStdString(), "WIZ"),
+        s{doc, pl, gen, motor, oculta, textos, Carpetas{datos, temporal.Ruta()}},
+        temario(datos, mensajes, [&pl](const std::string& aviso) { pl.Aviso(aviso); }) {
     InitServicios(notacion, mensajes);
   }
 
@@ -115,14 +121,14 @@ struct FormMain::Nucleo {
   GenContext gen;
   Motor motor;
   CanvasQt oculta{nullptr};
-  TextosVentana textos, textosPanel;
+  TextosVentana textos, textosPanel, textosWiz;
   UsoCarpetaTemporal temporal;
   Documento doc;
   Sesion s;
   Ajustes ajustes;
   Recientes recientes;
   std::vector<SistemaEducativo> sistemas;
-  std::unique_ptr<SilaboSed> silabo;
+  Temario temario;  // the syllabus of the chosen system and the catalogue
 };
 
 FormMain::FormMain(Almacen& almacen, Dialogos& dialogos, const QStringList& args, QWidget* parent)
@@ -152,10 +158,9 @@ FormMain::FormMain(Almacen& almacen, Dialogos& dialogos, const QStringList& args
   mostrarIniPanel_ = n_->ajustes.mostrarPanelInicio;
   iniPanelCerrado_ = !mostrarIniPanel_;
   n_->motor.reemplazos = ReemplazosDe(n_->ajustes, &n_->mensajes);
-  n_->silabo = std::make_unique<SilaboSed>(n_->datos.toStdString(), n_->ajustes.sysedu.toStdString(),
-                                           [this](const std::string& aviso) { Aviso(aviso); });
-  n_->silabo->Carga();
-  n_->gen.silabo = n_->silabo.get();
+  n_->textosWiz.LoadIdioma();
+  n_->temario.Carga(n_->ajustes.sysedu);
+  n_->gen.silabo = n_->temario.Silabo();
   LlenaSistemas();
   botonesEdicion_ = n_->ajustes.botonesEdicion;
   n_->recientes = Recientes::Lee(almacen_);
@@ -196,7 +201,7 @@ void FormMain::CreaMenus() {
   mnuFile_->setObjectName(QStringLiteral("mnu_File"));
   // The new-worksheet wizard, the group worksheets and printing are not part
   // of this version yet: their entries stay off.
-  accion(mnuFile_, "mnu_File_New", [] {})->setEnabled(false);
+  accion(mnuFile_, "mnu_File_New", [this] { mnu_File_New(); })->setShortcut(QKeySequence::New);
   accion(mnuFile_, "mnu_File_Open", [this] { mnu_File_Open(); })->setShortcut(QKeySequence::Open);
   accion(mnuFile_, "mnu_File_MuliColPer", [] {})->setVisible(false);
   mnuFile_->addSeparator();
@@ -261,7 +266,7 @@ void FormMain::CreaMenus() {
   cmnuEdicion_->addSeparator();
   auto* propiedades = cmnuEdicion_->addAction(QString());
   propiedades->setObjectName(QStringLiteral("cmnu_Edicion_COLEC_Prop"));
-  propiedades->setVisible(false);
+  connect(propiedades, &QAction::triggered, this, [this] { mnu_COLEC_Prop(); });
 
   mnuColec_ = menuBar()->addMenu(QString());
   mnuColec_->setObjectName(QStringLiteral("mnu_COLEC"));
@@ -276,7 +281,7 @@ void FormMain::CreaMenus() {
     grupoSol->addAction(solucion_[k]);
   }
   mnuColec_->addSeparator();
-  accion(mnuColec_, "mnu_COLEC_Prop", [] {})->setVisible(false);
+  accion(mnuColec_, "mnu_COLEC_Prop", [this] { mnu_COLEC_Prop(); });
   mnuColecAccion_ = mnuColec_->menuAction();
 
   mnuSetup_ = menuBar()->addMenu(QString());
@@ -304,7 +309,7 @@ void FormMain::CreaMenus() {
   mnuSyseduAccion_ = mnuSysedu_->menuAction();
   grupoSistemas_ = new QActionGroup(this);
   mnuSetup_->addSeparator();
-  accion(mnuSetup_, "mnu_setup_App", [] {})->setVisible(false);
+  accion(mnuSetup_, "mnu_setup_App", [this] { mnu_setup_App(); })->setMenuRole(QAction::PreferencesRole);
 
   mnuHelp_ = menuBar()->addMenu(QString());
   mnuHelp_->setObjectName(QStringLiteral("mnu_Help"));
@@ -370,6 +375,7 @@ void FormMain::CreaBarra() {
     boton_[i] = a;
   }
   connect(boton_[0], &QAction::triggered, this, [this] { mnu_File_Open(); });
+  connect(boton_[1], &QAction::triggered, this, [this] { mnu_File_New(); });
   connect(boton_[2], &QAction::triggered, this, [this] { mnu_File_Save(); });
   connect(boton_[3], &QAction::triggered, this, [this] { Regenerar(); });
   for (auto [i, nombre] : {std::pair{4, "mnu_Edicion_Undo"}, {5, "mnu_Edicion_Redo"}, {6, "mnu_Edicion_Cut"},
@@ -487,7 +493,7 @@ void FormMain::HayColeccion() {
   activo_.fill(false);
   mostrado_.fill(true);
   mostrado_[9] = false;  // printing is not part of this version yet
-  for (int i : {0, 2, 3, 10, 11}) activo_[i] = true;
+  for (int i : {0, 1, 2, 3, 10, 11}) activo_[i] = true;
   ActualizarBotones();
 }
 
@@ -495,7 +501,7 @@ void FormMain::SinDocumento() {
   activo_.fill(false);
   mostrado_.fill(true);
   mostrado_[9] = false;
-  for (int i : {0, 10, 11}) activo_[i] = true;
+  for (int i : {0, 1, 10, 11}) activo_[i] = true;
   vista_->Limpia();
   lbPage_->clear();
   ActualizarBotones();
@@ -689,7 +695,7 @@ void FormMain::Timer6_Timer() {
   timer6_->stop();
   if (!lineaDeComandosVacia_ || iniPanelCerrado_) return;
   CierraSplash();
-  FormIniOpt panel(n_->textosPanel, n_->datos, false, this);
+  FormIniOpt panel(n_->textosPanel, n_->datos, true, this);
   const RespuestaPanel r = dialogos_.PanelInicio(panel);
   iniPanelCerrado_ = true;
   mostrarIniPanel_ = r.mostrar;
@@ -779,6 +785,78 @@ void FormMain::Cargar(const QString& ruta) {
   vista_->Espera(true, T("Lbl_Wait"));
   CargarColeccion(n_->s);
   vista_->Espera(false);
+  Refresca();
+}
+
+// A new worksheet through the wizard. The old one can be had back with Undo.
+void FormMain::mnu_File_New() {
+  if (Ocupada()) return;
+  iniPanelCerrado_ = true;
+  timer6_->stop();
+  CierraSplash();
+  if (!PreguntaGuardar(n_->s, [this] { mnu_File_Save(); })) return;
+  n_->gen.rnd.Resembrar();
+  SetUNDO(n_->s, "File_new");
+  n_->ajustes.mostrarPanelInicio = mostrarIniPanel_;
+  n_->ajustes.botonesEdicion = botonesEdicion_;
+  FrmWizard wizard({n_->textosWiz, almacen_, n_->ajustes, n_->temario, dialogos_, n_->sistemas, n_->datos,
+                    [this](const QString& fichero) { return CambiaSistema(fichero); }},
+                   this);
+  dialogos_.Modal(wizard);
+  ActualizaMenusCheckeados();
+  if (!wizard.Exito() || wizard.Cabecera().NPROB == 0) {
+    SetUNDOTexto(n_->s, {});
+    ActualizarBotones();
+    return;
+  }
+  Documento& doc = n_->doc;
+  doc.col.cab = wizard.Cabecera();
+  Arbol_to_Var(wizard.ArbolHecho(), doc.col, n_->gen.rnd);
+  vista_->Espera(true, T("Lbl_Wait"));
+  CrearColeccion(n_->s, 1);
+  vista_->Espera(false);
+  Refresca();
+}
+
+// The settings of the program. The notation acts on the open worksheet at
+// once, when it is drawn again; nothing in the worksheet itself changes.
+void FormMain::mnu_setup_App() {
+  if (Ocupada()) return;
+  n_->ajustes.mostrarPanelInicio = mostrarIniPanel_;
+  n_->ajustes.botonesEdicion = botonesEdicion_;
+  const QString sistema = n_->ajustes.sysedu;
+  FrmSetup setup({n_->textosWiz, almacen_, n_->ajustes, dialogos_, n_->sistemas, n_->datos, true, {}}, this);
+  dialogos_.Modal(setup);
+  if (!setup.Ok()) return;
+  if (n_->ajustes.sysedu.compare(sistema, Qt::CaseInsensitive) != 0 && !CambiaSistema(n_->ajustes.sysedu)) return;
+  mostrarIniPanel_ = n_->ajustes.mostrarPanelInicio;
+  botonesEdicion_ = n_->ajustes.botonesEdicion;
+  n_->motor.reemplazos = ReemplazosDe(n_->ajustes, &n_->mensajes);
+  if (HayProblemas()) {
+    const bool modificada = n_->doc.Modificada;
+    ArmarBloques(n_->s, 0);
+    n_->doc.Modificada = modificada;
+  }
+  Refresca();
+}
+
+// The properties of the open worksheet, with an undo step.
+void FormMain::mnu_COLEC_Prop() {
+  if (Ocupada() || !HayProblemas()) return;
+  SetUNDO(n_->s, "ChangeWorkSheetProp");
+  FrmSetup setup({n_->textosWiz, almacen_, n_->ajustes, dialogos_, n_->sistemas, n_->datos, false, n_->doc.col.cab},
+                 this);
+  dialogos_.Modal(setup);
+  if (!setup.Ok()) {
+    SetUNDOTexto(n_->s, {});
+    ActualizarBotones();
+    return;
+  }
+  const int32_t nprob = n_->doc.col.cab.NPROB;
+  n_->doc.col.cab = setup.Cabecera();
+  n_->doc.col.cab.NPROB = nprob;
+  n_->motor.reemplazos = ReemplazosDe(n_->ajustes, &n_->mensajes);
+  ArmarBloques(n_->s, 0);
   Refresca();
 }
 
@@ -991,21 +1069,23 @@ void FormMain::mnu_setup_WIN_INI() {
 
 void FormMain::mnu_setup_SYSEDU_IDX(int i) {
   if (i < 0 || i >= static_cast<int>(n_->sistemas.size())) return;
-  EligeSistema(n_->ajustes, almacen_, n_->sistemas[static_cast<std::size_t>(i)].fichero);
-  auto silabo = std::make_unique<SilaboSed>(n_->datos.toStdString(), n_->ajustes.sysedu.toStdString(),
-                                            [this](const std::string& aviso) { Aviso(aviso); });
+  CambiaSistema(n_->sistemas[static_cast<std::size_t>(i)].fichero);
+  ActualizaMenusCheckeados();
+}
+
+bool FormMain::CambiaSistema(const QString& fichero) {
   try {
-    silabo->Carga();
+    n_->temario.Carga(fichero);
   } catch (const ErrorFatalDatos& e) {
     // A subject file the program cannot read is a fault of its data: the
     // program names the file and the line, and ends.
     Critico(ATexto(QString::fromStdString(e.fichero().string())) + "\n" + e.what());
     dialogos_.TerminaYa();
-    return;
+    return false;
   }
-  n_->silabo = std::move(silabo);
-  n_->gen.silabo = n_->silabo.get();
-  ActualizaMenusCheckeados();
+  EligeSistema(n_->ajustes, almacen_, fichero);
+  n_->gen.silabo = n_->temario.Silabo();
+  return true;
 }
 
 void FormMain::mnu_Help_Manual() {

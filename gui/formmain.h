@@ -103,6 +103,7 @@ class FormMain final : public QMainWindow, public Plataforma {
 
   // Commands.
   void Cargar(const QString& ruta);
+  void mnu_File_New();
   void mnu_File_Open();
   void mnu_File_Save();
   bool mnu_File_SaveAs();
@@ -124,6 +125,9 @@ class FormMain final : public QMainWindow, public Plataforma {
   void mnu_setup_BotEdic();
   void mnu_setup_WIN_INI();
   void mnu_setup_SYSEDU_IDX(int i);
+  bool CambiaSistema(const QString& fichero);
+  void mnu_setup_App();
+  void mnu_COLEC_Prop();
   void mnu_Help_Manual();
   void mnu_Help_About();
   void ImgLPage_Click();

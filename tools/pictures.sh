@@ -21,6 +21,16 @@ both() {
   draw "$img/$name.svg" $((size * 2)) "$img/$name@2x.png"
 }
 
+# draw_wh SVG W H OUT: the SVG as a W x H PNG, for pictures that are not square.
+draw_wh() { rsvg-convert -w "$2" -h "$3" -o "$4" "$1"; }
+
+# both_wh NAME W H: as both, for a W x H picture.
+both_wh() {
+  local name=$1 w=$2 h=$3
+  draw_wh "$img/$name.svg" "$w" "$h" "$img/$name.png"
+  draw_wh "$img/$name.svg" $((w * 2)) $((h * 2)) "$img/$name@2x.png"
+}
+
 for name in tb_open tb_new tb_save tb_recreate tb_undo tb_redo tb_cut tb_copy \
             tb_paste tb_print tb_zoom tb_help; do
   both "$name" 32
@@ -31,6 +41,23 @@ for name in page_left page_left_pressed page_right page_right_pressed; do
 done
 for name in ini_example0 ini_example1 ini_example2 ini_open ini_new; do
   both "$name" 64
+done
+
+# The new-worksheet wizard: its welcome picture, the subjects, the
+# difficulties, where the solutions go, and the icons of the topic tree.
+both_wh wizard_welcome 160 320
+for name in subject_chemistry chem1 chem2 nada; do
+  both "$name" 96
+done
+for name in diff_low diff_medium diff_high diff_progressive; do
+  both_wh "$name" 64 20
+done
+for name in answers_none answers_after answers_end answers_page; do
+  both_wh "$name" 64 80
+done
+for name in kind_question kind_exercise kind_problem kind_theory topic_closed topic_open \
+            subject_root; do
+  both "$name" 16
 done
 
 # The program's icon: in img/, and in the desktop's icon theme at the sizes

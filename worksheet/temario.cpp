@@ -3,7 +3,13 @@
 #include <algorithm>
 #include <tuple>
 
+#include <QDir>
+#include <QFileInfo>
+
+#include "modules/modulos.h"
 #include "problems/generic.h"
+#include "problems/idioma.h"
+#include "problems/silabo_sed.h"
 #include "problems/texto.h"
 
 namespace ss {
@@ -136,6 +142,72 @@ Arbol ArbolDeAsignatura(const std::vector<std::string>& catalogo, const std::str
     }
   }
   return arbol;
+}
+
+// ---- the subjects of the chosen system -------------------------------------------
+
+Temario::Temario(QString datos, Mensajes& mensajes, Aviso aviso)
+    : datos_(std::move(datos)), mensajes_(mensajes), aviso_(std::move(aviso)) {}
+
+Temario::~Temario() = default;
+
+void Temario::Carga(const QString& sysedu) {
+  std::unique_ptr<SilaboSed> silabo;
+  if (!sysedu.isEmpty()) {
+    silabo = std::make_unique<SilaboSed>(datos_.toStdString(), sysedu.toStdString(), aviso_);
+    silabo->Carga();
+  }
+  sysedu_ = sysedu;
+  silabo_ = std::move(silabo);
+  catalogo_.clear();
+  listado_ = false;
+}
+
+const std::vector<std::string>& Temario::Catalogo() {
+  if (!listado_) {
+    // A context of its own: listing draws no numbers from the worksheet's source.
+    GenContext g(&mensajes_);
+    g.silabo = silabo_.get();
+    catalogo_.clear();
+    ListaProblemas(g, catalogo_);
+    if (silabo_) {
+      std::vector<std::string> nombres;
+      for (const Asignatura& a : silabo_->Asignaturas()) nombres.push_back(a.nombre);
+      OrdenaPorAsignaturas(catalogo_, nombres);
+    }
+    listado_ = true;
+  }
+  return catalogo_;
+}
+
+std::vector<std::string> Temario::Asignaturas() {
+  const std::vector<std::string>& catalogo = Catalogo();
+  if (!silabo_) return AsignaturasDelCatalogo(catalogo, nullptr);
+  std::vector<std::string> nombres;
+  for (const Asignatura& a : silabo_->Asignaturas()) nombres.push_back(a.nombre);
+  return AsignaturasDelCatalogo(catalogo, &nombres);
+}
+
+QString Temario::Imagen(const std::string& asignatura) const {
+  const QDir img(QDir(datos_).filePath(QStringLiteral("img")));
+  auto existe = [&img](const QString& nombre) {
+    return !nombre.isEmpty() && QFileInfo(img.filePath(nombre)).isFile();
+  };
+  if (silabo_) {
+    for (const Asignatura& a : silabo_->Asignaturas()) {
+      if (UCase(Trim(a.nombre)) != UCase(Trim(asignatura))) continue;
+      QString nombre = QString::fromUtf8(Cp1252ToUtf8(std::string(Trim(a.img))).c_str());
+      if (!nombre.isEmpty() && QFileInfo(nombre).suffix().isEmpty()) {
+        for (const char* ext : {".png", ".jpg"})
+          if (existe(nombre + QLatin1String(ext))) return img.filePath(nombre + QLatin1String(ext));
+      }
+      if (existe(nombre)) return img.filePath(nombre);
+      break;
+    }
+  } else if (ClaveSinSilabo(asignatura) == "003") {
+    return img.filePath(QStringLiteral("subject_chemistry.png"));
+  }
+  return img.filePath(QStringLiteral("nada.png"));
 }
 
 }  // namespace ss

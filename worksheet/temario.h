@@ -39,3 +39,51 @@ Arbol ArbolDeAsignatura(const std::vector<std::string>& catalogo, const std::str
                         const TiposItem& tipos = kTiposPorDefecto, std::string* nombre = nullptr);
 
 }  // namespace ss
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+namespace ss {
+
+class SilaboSed;
+class Mensajes;
+struct GenContext;
+
+// The subjects on offer under the chosen education system: its syllabus and
+// the catalogue of every generator, listed once and kept until the system
+// changes.
+class Temario {
+ public:
+  using Aviso = std::function<void(const std::string&)>;
+  Temario(QString carpetaDatos, Mensajes& mensajes, Aviso aviso = {});
+  ~Temario();
+
+  // Chooses the system (a .sed file name, empty for none), reads its syllabus
+  // and empties the catalogue. A subject file with a broken line throws
+  // ErrorFatalDatos and leaves the old system in place.
+  void Carga(const QString& sysedu);
+  const QString& Sysedu() const { return sysedu_; }
+  // The syllabus of the system, or null without one.
+  SilaboSed* Silabo() const { return silabo_.get(); }
+
+  // The catalogue, listed on first use.
+  const std::vector<std::string>& Catalogo();
+  // The subjects in the order of the wizard's list.
+  std::vector<std::string> Asignaturas();
+  // The picture of a subject in the data folder: the syllabus's own, a
+  // chemistry flask for the chemistry of the program, else a plain one.
+  QString Imagen(const std::string& asignatura) const;
+
+ private:
+  QString datos_;
+  Mensajes& mensajes_;
+  Aviso aviso_;
+  QString sysedu_;
+  std::unique_ptr<SilaboSed> silabo_;
+  std::vector<std::string> catalogo_;
+  bool listado_ = false;
+};
+
+}  // namespace ss
