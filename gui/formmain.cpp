@@ -442,6 +442,7 @@ void FormMain::SetLanguage() {
       {"mnu_COLEC_SolJuntasFinal", "Worksheet_SolEnd", false},
       {"mnu_COLEC_SolPagAparte", "Worksheet_SolPag", false},
       {"mnu_COLEC_Prop", "Worksheet_Setup", true},
+      {"cmnu_Edicion_COLEC_Prop", "Worksheet_Setup", true},
       {"mnu_setup_BotEdic", "Setup_EditButtons", false},
       {"mnu_setup_zoomANCHO", "Setup_Zoom2Page", false},
       {"mnu_setup_WIN_INI", "Setup_WinIni", false},

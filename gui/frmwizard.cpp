@@ -328,7 +328,12 @@ QWidget* FrmWizard::PaginaTemas() {
   });
   auto abre = [this](QTreeWidgetItem* item, bool abierto) {
     const int i = item->data(0, kRolFila).toInt();
-    if (i > 0 && i <= arbol_.Count()) arbol_.filas[static_cast<std::size_t>(i)].Abierto = abierto;
+    if (i <= 0 || i > arbol_.Count()) return;
+    ArbolItem& f = arbol_.filas[static_cast<std::size_t>(i)];
+    f.Abierto = abierto;
+    if (f.Tipo == 5)
+      item->setIcon(0, QIcon(QDir(e_.carpetaDatos).filePath(abierto ? QStringLiteral("img/topic_open.png")
+                                                                     : QStringLiteral("img/topic_closed.png"))));
   };
   connect(tree_, &QTreeWidget::itemExpanded, this, [abre](QTreeWidgetItem* item) { abre(item, true); });
   connect(tree_, &QTreeWidget::itemCollapsed, this, [abre](QTreeWidgetItem* item) { abre(item, false); });

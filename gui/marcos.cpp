@@ -210,8 +210,9 @@ MarcoNumeracion::MarcoNumeracion(TextosVentana& t, QWidget* parent) : QWidget(pa
   paleta_ = new Paleta(this);
   muestra_ = new QLabel(this);
   muestra_->setObjectName(QStringLiteral("MuestraNumero"));
-  muestra_->setMinimumWidth(90);
+  muestra_->setMinimumWidth(70);
   muestra_->setAlignment(Qt::AlignCenter);
+  muestra_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 
   auto* g = new QGridLayout(this);
   g->setContentsMargins(0, 0, 0, 0);
@@ -222,10 +223,10 @@ MarcoNumeracion::MarcoNumeracion(TextosVentana& t, QWidget* parent) : QWidget(pa
   g->addWidget(prefijo_, 1, 0);
   g->addWidget(inicio_, 1, 1);
   g->addWidget(sufijo_, 1, 2);
-  g->addWidget(muestra_, 0, 3, 2, 1);
+  g->addWidget(muestra_, 1, 3, Qt::AlignLeft | Qt::AlignVCenter);
   g->addWidget(Etiqueta(TextoW(t, "ProblemColorHighlight", true), paleta_, this), 2, 0, 1, 4);
   g->addWidget(paleta_, 3, 0, 1, 4, Qt::AlignLeft);
-  g->setColumnStretch(3, 1);
+  g->setColumnStretch(4, 1);
   g->setRowStretch(4, 1);
 
   paleta_->alElegir = [this](int i) {
@@ -285,6 +286,7 @@ MarcoPaginas::MarcoPaginas(TextosVentana& t, QWidget* parent) : QWidget(parent) 
   muestra_->setObjectName(QStringLiteral("MuestraPagina"));
 
   auto* f = new QFormLayout;
+  f->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
   f->addRow(mostrar_);
   etiquetaInicio_ = Etiqueta(TextoW(t, "FirstPageNUM", true), inicio_, this);
   f->addRow(etiquetaInicio_, inicio_);
@@ -292,8 +294,10 @@ MarcoPaginas::MarcoPaginas(TextosVentana& t, QWidget* parent) : QWidget(parent) 
   f->addRow(Etiqueta(TextoW(t, "PageALIG", true), alineacion_, this), alineacion_);
   auto* h = new QHBoxLayout(this);
   h->setContentsMargins(0, 0, 0, 0);
-  h->addLayout(f, 1);
+  h->addLayout(f);
+  h->addSpacing(24);
   h->addWidget(muestra_, 0, Qt::AlignTop);
+  h->addStretch(1);
 
   connect(mostrar_, &QCheckBox::clicked, this, [this] { Combo1_Click(); });
   connect(posicion_, &QComboBox::activated, this, [this] { Combo1_Click(); });
