@@ -118,10 +118,12 @@ void MarcoTitulos::Pon(const ColeccionCab& cab, const TextosPequenos& d) {
   for (std::size_t k = 0; k < 3; ++k) {
     const QSignalBlocker b1(pequeno_[k]), b2(chk_[k]);
     pequeno_[k]->setText(DeTexto(*texto[k]));
+    pequeno_[k]->setCursorPosition(0);  // a long text shows its beginning
     chk_[k]->setChecked(d.porDefecto[k]);
   }
   const QSignalBlocker b(titulo_);
   titulo_->setText(DeTexto(cab.TITULO));
+  titulo_->setCursorPosition(0);
 }
 
 void MarcoTitulos::Lee(ColeccionCab& cab) const {
