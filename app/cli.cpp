@@ -36,8 +36,10 @@ const std::vector<Comando>& Comandos() {
        "[--possol 0-3] [--ordena|--shuffle] [--title T] [--pretit T] [--posti1 T] [--posti2 T] "
        "[--seed N] -o FILE.col",
        "make a worksheet of a subject's items and save it", ComandoNew},
-      {"render", "FILE.col -o OUT.pdf|OUT-%d.png [--zoom Z]",
-       "draw every page of a worksheet to a PDF or to PNG images", ComandoRender},
+      {"render", "FILE.col... -o OUT.pdf|OUT-%d.png [--zoom Z]",
+       "draw every page of worksheets (or a folder of them) to a PDF or to PNG images", ComandoRender},
+      {"group", "FILE.col --students LIST.txt [--problems 1,3-5|none] [--seed N] -o FOLDER",
+       "a copy of a worksheet for every student of a list", ComandoGroup},
       {"info", "FILE.col", "a worksheet's header and problems as JSON", ComandoInfo},
   };
   return comandos;

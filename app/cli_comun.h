@@ -42,6 +42,7 @@ int ComandoMarkup(const QStringList& args);
 int ComandoNew(const QStringList& args);
 int ComandoRender(const QStringList& args);
 int ComandoInfo(const QStringList& args);
+int ComandoGroup(const QStringList& args);
 
 // One usage line on stderr, with the reason first when there is one; the exit code 2.
 int Usage(const QString& comando = {}, const QString& porque = {});

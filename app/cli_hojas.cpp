@@ -1,4 +1,7 @@
 // The worksheet commands of sheetsmith-cli: new, render and info.
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -6,6 +9,9 @@
 
 #include "app/cli_comun.h"
 #include "problems/texto.h"
+#include "output/grupo.h"
+#include "output/impresion.h"
+#include "output/paginas.h"
 #include "typeset/salida.h"
 #include "worksheet/armado.h"
 #include "worksheet/colfile.h"
@@ -196,36 +202,121 @@ int ComandoRender(const QStringList& args) {
                    "Draws every page of a worksheet, each with its title block and page number:\n"
                    "a PDF of all pages as they print, or one PNG a page as it shows on screen,\n"
                    "%d in the name standing for the page number (-o sheet-%d.png gives\n"
-                   "sheet-1.png, sheet-2.png, ...) and prints {\"pages\": P}. When a file cannot be\n"
-                   "written (a full disk) nothing is left behind."));
-  a.Posicional(QStringLiteral("FILE.col"), QStringLiteral("The worksheet file."))
+                   "sheet-1.png, sheet-2.png, ...) and prints {\"pages\": P}. Several worksheets,\n"
+                   "or a folder (its .col files by name), make one PDF of all their pages in\n"
+                   "order, each worksheet numbered as it prints alone: a whole class in one file.\n"
+                   "When a file cannot be read or written nothing is left behind."));
+  a.Posicional(QStringLiteral("FILE.col"), QStringLiteral("The worksheet file, or a folder of them; several may be given."))
       .Opcion({QStringLiteral("o")},
               QStringLiteral("The file to write: OUT.pdf, or OUT-%d.png for one image a page."),
               QStringLiteral("OUT"))
       .Opcion({QStringLiteral("zoom")}, QStringLiteral("The PNG's scale, 0.1 to 8 (default 1)."),
               QStringLiteral("Z"));
-  if (auto fin = a.Lee(args, 1, 1)) return *fin;
+  if (auto fin = a.Lee(args, 1, 1000)) return *fin;
   const QString salida = a.Valor(QStringLiteral("o"));
   if (const QString porque = TipoDeSalida(salida, true); !porque.isEmpty())
     return Usage(QStringLiteral("render"), porque);
   const std::optional<double> zoom = Zoom(a);
   if (!zoom) return Usage(QStringLiteral("render"), QStringLiteral("--zoom takes a number from 0.1 to 8"));
 
+  QStringList ficheros;
+  for (const QString& nombre : a.Posicionales()) {
+    if (!QFileInfo(nombre).isDir()) {
+      ficheros << nombre;
+      continue;
+    }
+    const QDir carpeta(nombre);
+    const QStringList cols = carpeta.entryList({QStringLiteral("*.col"), QStringLiteral("*.COL")},
+                                               QDir::Files, QDir::Name | QDir::IgnoreCase);
+    if (cols.isEmpty()) return Error(QStringLiteral("%1: there are no worksheets in this folder").arg(nombre));
+    for (const QString& c : cols) ficheros << carpeta.filePath(c);
+  }
+  const bool pdf = salida.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive);
+  if (ficheros.size() > 1 && !pdf)
+    return Usage(QStringLiteral("render"), QStringLiteral("several worksheets go into one PDF: -o OUT.pdf"));
+
+  // Every worksheet is read before anything is written.
   Trabajo t;
-  if (!t.Carga(a.Posicionales()[0])) return 1;
-  t.AvisaCortes();
-  const ss::ColeccionCab& cab = t.doc.col.cab;
-  const ss::PintaPagina pinta = [&](int pagina, ss::Canvas& canvas) {
-    t.motor.ComponerTexto(ss::TextoPagina(t.doc, pagina), 12, canvas);
-    ss::DibujaNumeroPagina(t.motor, canvas, pagina, cab.PAGINI, cab.POSNUMPAG);
+  std::vector<ss::Documento> hojas;
+  std::vector<std::pair<std::size_t, int>> paginas;  // worksheet and its page, in order
+  for (const QString& f : ficheros) {
+    if (!t.Carga(f)) return 1;
+    t.AvisaCortes();
+    for (int p = 1; p <= t.doc.numPaginas; ++p) paginas.emplace_back(hojas.size(), p);
+    hojas.push_back(t.doc);
+  }
+  const int total = static_cast<int>(paginas.size());
+  const ss::PintaPagina pinta = [&](int k, ss::Canvas& canvas) {
+    const auto& [hoja, pagina] = paginas[static_cast<std::size_t>(k - 1)];
+    ss::PintaPaginaHoja(t.motor, canvas, hojas[hoja], pagina);
   };
   QString fallo;
-  const bool pdf = salida.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive);
-  if (!(pdf ? ss::EscribePdf(salida, t.doc.numPaginas, pinta, &fallo)
-            : ss::EscribePngs(salida, *zoom, t.doc.numPaginas, pinta, &fallo)))
+  if (!(pdf ? ss::EscribePdf(salida, total, pinta, &fallo) : ss::EscribePngs(salida, *zoom, total, pinta, &fallo)))
     return Error(fallo);
-  ImprimeJson(QJsonDocument(QJsonObject{{QStringLiteral("pages"), t.doc.numPaginas}}), QJsonDocument::Compact);
+  QJsonObject hecho{{QStringLiteral("pages"), total}};
+  if (ficheros.size() > 1) hecho[QStringLiteral("worksheets")] = static_cast<int>(ficheros.size());
+  ImprimeJson(QJsonDocument(hecho), QJsonDocument::Compact);
   return 0;
+}
+
+int ComandoGroup(const QStringList& args) {
+  Argumentos a("group",
+               QStringLiteral(
+                   "Makes a worksheet for every student of a list, as the desktop program does:\n"
+                   "each copy carries \"Student: \" and the name below the title, gets new numbers\n"
+                   "in the chosen problems (all unless told) and is saved in FOLDER as NAME.col.\n"
+                   "The list is a text file, one name a line (UTF-8 or Windows-1252). Prints\n"
+                   "{\"students\": N, \"files\": [...]}."));
+  a.Posicional(QStringLiteral("FILE.col"), QStringLiteral("The worksheet to copy."))
+      .Opcion({QStringLiteral("students")}, QStringLiteral("The list of students."), QStringLiteral("LIST.txt"))
+      .Opcion({QStringLiteral("problems")},
+              QStringLiteral("The problems that differ between students, as numbered from 1 in the\n"
+                             "worksheet's order: 1,3-5; \"none\" for none; all when not given."),
+              QStringLiteral("P"))
+      .Opcion({QStringLiteral("seed")}, QStringLiteral("Makes the new numbers repeatable."), QStringLiteral("N"))
+      .Opcion({QStringLiteral("o")}, QStringLiteral("The folder for the copies; made when missing."),
+              QStringLiteral("FOLDER"));
+  if (auto fin = a.Lee(args, 1, 1)) return *fin;
+  const QString lista = a.Valor(QStringLiteral("students")), carpeta = a.Valor(QStringLiteral("o"));
+  if (lista.isEmpty()) return Usage(QStringLiteral("group"), QStringLiteral("--students LIST.txt is required"));
+  if (carpeta.isEmpty()) return Usage(QStringLiteral("group"), QStringLiteral("-o FOLDER is required"));
+  std::optional<uint64_t> seed;
+  if (a.Esta(QStringLiteral("seed")) && !(seed = Semilla(a.Valor(QStringLiteral("seed")))))
+    return Usage(QStringLiteral("group"), QStringLiteral("--seed takes a whole number"));
+
+  Trabajo t(seed);
+  if (!t.Carga(a.Posicionales()[0])) return 1;
+  const std::size_t problemas = t.doc.col.problemas.size();
+  std::vector<bool> distintos(problemas, true);
+  if (a.Esta(QStringLiteral("problems"))) {
+    const QString elegidos = a.Valor(QStringLiteral("problems")).trimmed();
+    std::fill(distintos.begin(), distintos.end(), false);
+    if (elegidos.compare(QStringLiteral("none"), Qt::CaseInsensitive) != 0) {
+      std::vector<ss::Tramo> tramos;
+      if (ss::LeeIntervalo(elegidos.toStdString(), static_cast<int>(problemas), tramos) != ss::FalloPaginas::Ninguno)
+        return Usage(QStringLiteral("group"),
+                     QStringLiteral("--problems takes numbers and ranges from 1 to %1, such as 1,3-5").arg(problemas));
+      for (const ss::Tramo& tramo : tramos)
+        for (int k = tramo.first; k <= tramo.second; ++k) distintos[static_cast<std::size_t>(k - 1)] = true;
+    }
+  }
+
+  QFile fichero(lista);
+  if (QFileInfo(lista).isDir() || !fichero.open(QIODevice::ReadOnly))
+    return Error(QStringLiteral("%1: the list of students cannot be read (%2)")
+                     .arg(lista, QFileInfo(lista).isDir() ? QStringLiteral("it is a folder") : fichero.errorString()));
+  const std::vector<QString> alumnos = ss::LeeListaAlumnos(fichero.read(ss::kMaxTamanoColeccion));
+  if (alumnos.empty()) return Error(QStringLiteral("%1: the list of students holds no name").arg(lista));
+  if (!QDir().mkpath(carpeta)) return Error(QStringLiteral("%1: the folder cannot be made").arg(carpeta));
+
+  const ss::GrupoHecho hecho = ss::HazGrupo(t.s, {alumnos, distintos, carpeta}, {});
+  for (const std::string& aviso : t.plataforma.avisos) Aviso(DeCp1252(aviso));
+  QJsonArray nombres;
+  for (const QString& f : hecho.ficheros) nombres.append(f);
+  ImprimeJson(QJsonDocument(QJsonObject{{QStringLiteral("students"), static_cast<int>(alumnos.size())},
+                                        {QStringLiteral("files"), nombres}}),
+              QJsonDocument::Compact);
+  return hecho.fallidos > 0 ? 1 : 0;
 }
 
 int ComandoInfo(const QStringList& args) {

@@ -460,3 +460,59 @@ TEST(Cli, RenderWritesEveryPageOrNothing) {
 }
 
 }  // namespace
+
+namespace {
+
+// The text pdftotext finds on page `p` of a PDF.
+QString TextoDePagina(const QString& pdf, int p) {
+  QProcess t;
+  t.start("pdftotext", {"-f", QString::number(p), "-l", QString::number(p), "-layout", pdf, "-"});
+  t.waitForFinished(30000);
+  return QString::fromUtf8(t.readAllStandardOutput());
+}
+
+TEST(Cli, GroupMakesAClassAndRenderPrintsItInOnePdf) {
+  QTemporaryDir dir;
+  const QString col = dir.filePath("sheet.col"), lista = dir.filePath("list.txt"), clase = dir.filePath("3B");
+  ASSERT_EQ(Cli({"new", "--subject", "Chemistry", "--item", "ANEU_QUIM_DIS:9=2", "--item", "ANEU_QUIM_DIS:1=1",
+                 "--possol", "3", "--title", "Gases", "--posti1", "Class 3B", "--seed", "3", "-o", col}).code, 0);
+  Escribe(lista, "Zoe Adams\nJos\xC3\xA9 N\xC3\xBA\xC3\xB1" "ez\n\nZoe Adams\n");
+  const Salida g = Cli({"group", col, "--students", lista, "--problems", "2-3", "--seed", "4", "-o", clase});
+  ASSERT_EQ(g.code, 0) << g.err.toStdString();
+  EXPECT_EQ(g.obj().value("students").toInt(), 3);
+  const QStringList hechos = QDir(clase).entryList(QDir::Files, QDir::Name);
+  ASSERT_EQ(hechos.size(), 3);
+  EXPECT_EQ(hechos[0], QString::fromUtf8("José Núñez.col"));
+  // The problem not chosen reads the same in every copy; the chosen ones differ.
+  QSet<QString> primero, segundo;
+  for (const QString& h : hechos) {
+    const QJsonArray p = Cli({"info", QDir(clase).filePath(h)}).obj().value("problems").toArray();
+    primero << p[0].toObject().value("statement").toString(), segundo << p[1].toObject().value("statement").toString();
+  }
+  EXPECT_EQ(primero.size(), 1);
+  EXPECT_EQ(segundo.size(), 3);
+
+  // A folder and single files in one PDF, in the order given, each numbered as it prints alone.
+  const int paginas = Cli({"info", col}).obj().value("pages").toInt();
+  const QString pdf = dir.filePath("class.pdf");
+  const Salida r = Cli({"render", clase, col, "-o", pdf});
+  ASSERT_EQ(r.code, 0) << r.err.toStdString();
+  EXPECT_EQ(r.obj().value("pages").toInt(), 4 * paginas);
+  EXPECT_TRUE(TextoDePagina(pdf, 1).contains(QString::fromUtf8("Student: José Núñez")));
+  EXPECT_TRUE(TextoDePagina(pdf, 2 * paginas + 1).contains("Student: Zoe Adams"));
+  EXPECT_FALSE(TextoDePagina(pdf, 3 * paginas + 1).contains("Student:"));
+  EXPECT_EQ(TextoDePagina(pdf, paginas + 1).trimmed().split('\n').last().trimmed(), "1");
+
+  // A damaged worksheet in the folder: nothing is written; bad arguments are usage errors.
+  Escribe(QDir(clase).filePath("broken.col"), "not a worksheet");
+  EXPECT_EQ(Cli({"render", clase, "-o", dir.filePath("no.pdf")}).code, 1);
+  EXPECT_FALSE(QFileInfo::exists(dir.filePath("no.pdf")));
+  for (const QStringList& malos : {QStringList{"render", col, col, "-o", dir.filePath("p-%d.png")},
+                                   QStringList{"group", col, "--students", lista, "--problems", "4", "-o", clase},
+                                   QStringList{"group", col, "-o", clase}, QStringList{"group", col, "--students", lista}})
+    EXPECT_EQ(Cli(malos).code, 2) << malos.join(' ').toStdString();
+  Escribe(lista, "\r\n  \r\n");
+  EXPECT_EQ(Cli({"group", col, "--students", lista, "-o", dir.filePath("empty")}).code, 1);
+}
+
+}  // namespace
