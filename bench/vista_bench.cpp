@@ -74,6 +74,9 @@ struct Callados final : ss::Dialogos {
   bool Confirma(QWidget*, const QString&) override { return false; }
   QString FicheroAbrir(QWidget*, const QString&, const QString&, const QString&) override { return {}; }
   QString FicheroGuardar(QWidget*, const QString&, const QString&, const QString&) override { return {}; }
+  QString Carpeta(QWidget*, const QString&, const QString&) override { return {}; }
+  void ConfiguraImpresora(QWidget*, QPrinter&) override {}
+  std::unique_ptr<ss::Avance> EmpiezaAvance(QWidget*, const QString&, int) override { return nullptr; }
   ss::RespuestaPanel PanelInicio(ss::FormIniOpt&) override { return {}; }
   void Modal(QDialog&) override {}
   bool LanzaPrograma(const QString&) override { return false; }

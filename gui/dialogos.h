@@ -5,15 +5,26 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
 #include "worksheet/plataforma.h"
 
 class QDialog;
+class QPrinter;
 class QUrl;
 class QWidget;
 
 namespace ss {
 
 class FormIniOpt;
+
+// A long run shown to the user, with a way to stop it.
+class Avance {
+ public:
+  virtual ~Avance() = default;
+  // Step `hecho` of the run is about to start; false when the user asked to stop.
+  virtual bool Paso(int hecho, const QString& texto) = 0;
+};
 
 // What the start panel left behind when it closed.
 struct RespuestaPanel {
@@ -40,6 +51,14 @@ class Dialogos {
   virtual QString FicheroGuardar(QWidget* padre, const QString& titulo, const QString& propuesta,
                                  const QString& filtro) = 0;
 
+  // A folder, or empty when the dialog was cancelled.
+  virtual QString Carpeta(QWidget* padre, const QString& titulo, const QString& carpeta) = 0;
+  // The desktop's printer set-up for `impresora` (which printer, paper,
+  // its own options); the pages and copies are the print window's.
+  virtual void ConfiguraImpresora(QWidget* padre, QPrinter& impresora) = 0;
+  // A run of `total` steps: shown after a second, with Cancel.
+  virtual std::unique_ptr<Avance> EmpiezaAvance(QWidget* padre, const QString& titulo, int total) = 0;
+
   // Shows the start panel modally.
   virtual RespuestaPanel PanelInicio(FormIniOpt& panel) = 0;
   // Runs one of the program's own dialogs (the wizard, the settings) modally;
@@ -65,6 +84,9 @@ class DialogosQt final : public Dialogos {
                        const QString& filtro) override;
   QString FicheroGuardar(QWidget* padre, const QString& titulo, const QString& propuesta,
                          const QString& filtro) override;
+  QString Carpeta(QWidget* padre, const QString& titulo, const QString& carpeta) override;
+  void ConfiguraImpresora(QWidget* padre, QPrinter& impresora) override;
+  std::unique_ptr<Avance> EmpiezaAvance(QWidget* padre, const QString& titulo, int total) override;
   RespuestaPanel PanelInicio(FormIniOpt& panel) override;
   void Modal(QDialog& dialogo) override;
   bool LanzaPrograma(const QString& ruta) override;

@@ -16,6 +16,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPainter>
+#include <QPrinter>
 #include <QScreen>
 #include <QScrollBar>
 #include <QKeyEvent>
@@ -32,15 +33,21 @@
 #include "gui/dialogos.h"
 #include "gui/formacerca.h"
 #include "gui/forminiopt.h"
+#include "gui/formmulticolper.h"
+#include "gui/frmimprimir.h"
 #include "gui/frmsetup.h"
 #include "gui/frmwizard.h"
 #include "gui/vista.h"
+#include "output/grupo.h"
+#include "output/impresion.h"
+#include "output/paginas.h"
 #include "problems/generic.h"
 #include "problems/idioma.h"
 #include "problems/silabo_sed.h"
 #include "problems/texto.h"
 #include "typeset/canvas_qt.h"
 #include "typeset/motor.h"
+#include "typeset/salida.h"
 #include "worksheet/ajustes.h"
 #include "worksheet/armado.h"
 #include "worksheet/asistente.h"
@@ -110,6 +117,8 @@ struct FormMain::Nucleo {
         textos(datos.toStdString(), "MAI"),
         textosPanel(datos.toStdString(), "INO"),
         textosWiz(datos.toStdString(), "WIZ"),
+        textosPri(datos.toStdString(), "PRI"),
+        textosSef(datos.toStdString(), "SEF"),
         s{doc, pl, gen, motor, oculta, textos, Carpetas{datos, temporal.Ruta()}},
         temario(datos, mensajes, [&pl](const std::string& aviso) { pl.Aviso(aviso); }) {
     InitServicios(notacion, mensajes);
@@ -121,7 +130,8 @@ struct FormMain::Nucleo {
   GenContext gen;
   Motor motor;
   CanvasQt oculta{nullptr};
-  TextosVentana textos, textosPanel, textosWiz;
+  TextosVentana textos, textosPanel, textosWiz, textosPri, textosSef;
+  std::unique_ptr<QPrinter> impresora;  // made at the first print, kept with its set-up
   UsoCarpetaTemporal temporal;
   Documento doc;
   Sesion s;
@@ -159,6 +169,8 @@ FormMain::FormMain(Almacen& almacen, Dialogos& dialogos, const QStringList& args
   iniPanelCerrado_ = !mostrarIniPanel_;
   n_->motor.reemplazos = ReemplazosDe(n_->ajustes, &n_->mensajes);
   n_->textosWiz.LoadIdioma();
+  n_->textosPri.LoadIdioma();
+  n_->textosSef.LoadIdioma();
   n_->temario.Carga(n_->ajustes.sysedu);
   n_->gen.silabo = n_->temario.Silabo();
   LlenaSistemas();
@@ -170,6 +182,7 @@ FormMain::FormMain(Almacen& almacen, Dialogos& dialogos, const QStringList& args
   ficherosAbrir_ = FicherosDeArgumentos(args);
   FijarTextoLabelsPicTool();
   connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &FormMain::RevisaPortapapeles);
+  CompruebaImpresoras();
   NoColeccion(n_->s);
   RevisaPortapapeles();
   ActualizaMenusCheckeados();
@@ -203,12 +216,16 @@ void FormMain::CreaMenus() {
   // of this version yet: their entries stay off.
   accion(mnuFile_, "mnu_File_New", [this] { mnu_File_New(); })->setShortcut(QKeySequence::New);
   accion(mnuFile_, "mnu_File_Open", [this] { mnu_File_Open(); })->setShortcut(QKeySequence::Open);
-  accion(mnuFile_, "mnu_File_MuliColPer", [] {})->setVisible(false);
+  accion(mnuFile_, "mnu_File_MuliColPer", [this] { mnu_File_MuliColPer(); });
   mnuFile_->addSeparator();
   accion(mnuFile_, "mnu_File_Save", [this] { mnu_File_Save(); })->setShortcut(QKeySequence::Save);
   accion(mnuFile_, "mnu_File_SaveAs", [this] { mnu_File_SaveAs(); })->setShortcut(QKeySequence::SaveAs);
-  accion(mnuFile_, "mnu_File_Print", [] {})->setVisible(false);
-  accion(mnuFile_, "mnu_File_Print_folder", [] {})->setVisible(false);
+  mnuFile_->addSeparator();
+  accion(mnuFile_, "mnu_File_Print", [this] { mnu_File_Print(); })->setShortcut(QKeySequence::Print);
+  accion(mnuFile_, "mnu_File_Print_folder", [this] { mnu_File_Print_folder(); });
+  accion(mnuFile_, "mnu_File_ExportPdf", [this] { mnu_File_ExportPdf(); });
+  // Printers come and go: the entries follow when the menu opens.
+  connect(mnuFile_, &QMenu::aboutToShow, this, [this] { CompruebaImpresoras(); });
   zep04_ = mnuFile_->addSeparator();
   zep04_->setObjectName(QStringLiteral("zep04"));
   for (int i = 0; i < 9; ++i) {
@@ -378,6 +395,7 @@ void FormMain::CreaBarra() {
   connect(boton_[1], &QAction::triggered, this, [this] { mnu_File_New(); });
   connect(boton_[2], &QAction::triggered, this, [this] { mnu_File_Save(); });
   connect(boton_[3], &QAction::triggered, this, [this] { Regenerar(); });
+  connect(boton_[9], &QAction::triggered, this, [this] { mnu_File_Print(); });
   for (auto [i, nombre] : {std::pair{4, "mnu_Edicion_Undo"}, {5, "mnu_Edicion_Redo"}, {6, "mnu_Edicion_Cut"},
                            {7, "mnu_Edicion_Copy"}, {8, "mnu_Edicion_Paste"}}) {
     QAction* entrada = findChild<QAction*>(QLatin1String(nombre));
@@ -423,6 +441,7 @@ void FormMain::SetLanguage() {
       {"mnu_File_SaveAs", "File_SaveAs", true},
       {"mnu_File_Print", "File_Print", true},
       {"mnu_File_Print_folder", "File_Print_Fold", true},
+      {"mnu_File_ExportPdf", "File_ExportPDF", true},
       {"mnu_File_Exit", "File_Exit", false},
       {"mnu_Edicion_Undo", "Edit_Undo0", false},
       {"mnu_Edicion_Redo", "Edit_Redo0", false},
@@ -493,15 +512,14 @@ bool FormMain::HayProblemas() const { return !n_->doc.col.problemas.empty() && !
 void FormMain::HayColeccion() {
   activo_.fill(false);
   mostrado_.fill(true);
-  mostrado_[9] = false;  // printing is not part of this version yet
   for (int i : {0, 1, 2, 3, 10, 11}) activo_[i] = true;
+  activo_[9] = hayImpresora_;
   ActualizarBotones();
 }
 
 void FormMain::SinDocumento() {
   activo_.fill(false);
   mostrado_.fill(true);
-  mostrado_[9] = false;
   for (int i : {0, 1, 10, 11}) activo_[i] = true;
   vista_->Limpia();
   lbPage_->clear();
@@ -553,8 +571,10 @@ void FormMain::AplicaHabilitados() {
   tbToolbar1_->setEnabled(libre);
   mnuEdicionAccion_->setVisible(doc);
   mnuColecAccion_->setVisible(doc);
-  for (const char* nombre : {"mnu_File_Save", "mnu_File_SaveAs"})
+  for (const char* nombre : {"mnu_File_Save", "mnu_File_SaveAs", "mnu_File_ExportPdf", "mnu_File_MuliColPer"})
     findChild<QAction*>(QLatin1String(nombre))->setEnabled(doc);
+  findChild<QAction*>(QStringLiteral("mnu_File_Print"))->setEnabled(doc && hayImpresora_);
+  findChild<QAction*>(QStringLiteral("mnu_File_Print_folder"))->setEnabled(hayImpresora_);
   imgLPage_->setEnabled(libre && doc && n_->doc.paginaActual > 1);
   imgRPage_->setEnabled(libre && doc && n_->doc.paginaActual < n_->doc.numPaginas);
 }
@@ -1087,6 +1107,207 @@ bool FormMain::CambiaSistema(const QString& fichero) {
   EligeSistema(n_->ajustes, almacen_, fichero);
   n_->gen.silabo = n_->temario.Silabo();
   return true;
+}
+
+// ---- printing, PDF and student groups -------------------------------------------
+
+void FormMain::CompruebaImpresoras() {
+  hayImpresora_ = !Impresoras().isEmpty();
+  const QString nombre = n_->impresora && n_->impresora->outputFormat() == QPrinter::NativeFormat
+                             ? n_->impresora->printerName()
+                             : ImpresoraPorDefecto();
+  boton_[9]->setToolTip(hayImpresora_ ? T("File_Print").remove(u'&') + QStringLiteral(" (") + nombre + u')'
+                                      : T("File_Print").remove(u'&'));
+  activo_[9] = hayImpresora_ && HayProblemas();
+  ActualizarBotones();
+}
+
+QPrinter& FormMain::Impresora() {
+  if (!n_->impresora) {
+    n_->impresora = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    PonPapelA4(*n_->impresora);
+    if (const QString defecto = ImpresoraPorDefecto(); !defecto.isEmpty()) n_->impresora->setPrinterName(defecto);
+  }
+  return *n_->impresora;
+}
+
+// Points the printer at the queue chosen in the print window, or at a PDF
+// file (empty `impresora`), whose name is asked now; false when that is cancelled.
+bool FormMain::EligeSalida(const QString& impresora, const QString& propuesta) {
+  QPrinter& p = Impresora();
+  if (impresora.isEmpty()) {
+    const QString ruta = dialogos_.FicheroGuardar(this, T("File_ExportPDF").remove(u'&'), propuesta,
+                                                  DeTexto(n_->textosPri.GetL_win("PdfFiles")) + QStringLiteral(" (*.pdf)"));
+    if (ruta.isEmpty()) return false;
+    p.setOutputFormat(QPrinter::PdfFormat);
+    p.setOutputFileName(ruta);
+    return true;
+  }
+  p.setOutputFormat(QPrinter::NativeFormat);
+  p.setOutputFileName(QString());
+  p.setPrinterName(impresora);
+  return true;
+}
+
+namespace {
+
+QString NombrePdf(const Documento& doc, const QString& carpeta) {
+  const QString base = doc.ruta.isEmpty() ? QStringLiteral("worksheet") : QFileInfo(doc.ruta).completeBaseName();
+  return QDir(doc.ruta.isEmpty() ? carpeta : QFileInfo(doc.ruta).absolutePath()).filePath(base + QStringLiteral(".pdf"));
+}
+
+QString Sustituye(QString texto, std::initializer_list<std::pair<const char*, QString>> cambios) {
+  for (const auto& [clave, valor] : cambios) texto.replace(QLatin1String(clave), valor);
+  return texto;
+}
+
+}  // namespace
+
+void FormMain::mnu_File_Print() {
+  CompruebaImpresoras();
+  if (!HayProblemas() || Ocupada() || !hayImpresora_) return;
+  Documento& doc = n_->doc;
+  FrmImprimir dialogo({n_->textosPri, dialogos_, Impresora(), n_->datos, doc.numPaginas, doc.paginaActual, {}, true,
+                       [this] { mnu_Help_Manual(); }},
+                      this);
+  dialogos_.Modal(dialogo);
+  if (dialogo.ImprimirCancelado() || !EligeSalida(dialogo.Impresora(), NombrePdf(doc, carpetaInicial_))) return;
+  ImprimeAbierta(OrdenDeImpresion(dialogo.Eleccion(), doc.numPaginas));
+}
+
+// Prints sheets of the open worksheet, each shown on screen at zoom 1 as it
+// goes; the zoom and the page on screen come back afterwards, also when the
+// run was stopped or failed.
+void FormMain::ImprimeAbierta(const std::vector<int>& orden) {
+  Documento& doc = n_->doc;
+  const double zoom = vista_->Zoom();
+  const int pagina = doc.paginaActual;
+  FinImpresion fin;
+  {
+    TrabajoOcupado ocupado(n_->s);
+    const std::unique_ptr<Avance> avance =
+        dialogos_.EmpiezaAvance(this, T("File_Print").remove(u'&'), static_cast<int>(orden.size()));
+    const QString paso = DeTexto(n_->textosPri.GetL_win("PrintingPage"));
+    vista_->PonZoom(1);
+    const QString nombre = doc.ruta.isEmpty() ? windowTitle() : QFileInfo(doc.ruta).fileName();
+    fin = ImprimeDocumento(Impresora(), nombre, n_->motor, doc, orden, [&](int k) {
+      doc.paginaActual = orden[static_cast<std::size_t>(k)];
+      PintarPagina();
+      const QString texto = Sustituye(paso, {{"%PAGES%", QString::number(orden.size())},
+                                            {"%PAGE%", QString::number(k + 1)}});
+      return !avance || avance->Paso(k, texto);
+    });
+    vista_->PonZoom(zoom);
+    doc.paginaActual = pagina;
+  }
+  PintarPagina();
+  if (fin == FinImpresion::Fallida) dialogos_.Aviso(this, DeTexto(n_->textosPri.GetL_win("PrintFailed")));
+}
+
+// Prints worksheet files one after another, each read into a document of its
+// own: the open worksheet is never touched. A file that cannot be read is
+// told, and the next one prints.
+void FormMain::ImprimeFicheros(const QStringList& ficheros, const EleccionImpresion& eleccion) {
+  TrabajoOcupado ocupado(n_->s);
+  const std::unique_ptr<Avance> avance =
+      dialogos_.EmpiezaAvance(this, T("File_Print_Fold").remove(u'&'), static_cast<int>(ficheros.size()));
+  const QString paso = DeTexto(n_->textosPri.GetL_win("PrintingFile"));
+  PlataformaDelegada plataforma(n_->s.plataforma);
+  for (qsizetype i = 0; i < ficheros.size(); ++i) {
+    const QString nombre = QFileInfo(ficheros[i]).fileName();
+    if (avance && !avance->Paso(static_cast<int>(i), Sustituye(paso, {{"%FILE%", nombre}}))) break;
+    Documento hoja;
+    Sesion s{hoja, plataforma, n_->gen, n_->motor, n_->oculta, n_->textos, n_->s.carpetas};
+    hoja.ruta = ficheros[i];
+    const bool dicho = plataforma.Dijo();
+    if (!CargarColeccion(s) || hoja.col.problemas.empty()) {
+      if (plataforma.Dijo() == dicho) dialogos_.Critico(this, T("InvalidFile") + u'\n' + ficheros[i]);
+      continue;
+    }
+    const FinImpresion fin =
+        ImprimeDocumento(Impresora(), nombre, n_->motor, hoja, OrdenDeImpresion(eleccion, hoja.numPaginas), [this](int) {
+          QCoreApplication::processEvents();
+          return true;
+        });
+    if (fin == FinImpresion::Fallida) {
+      dialogos_.Aviso(this, DeTexto(n_->textosPri.GetL_win("PrintFailed")));
+      break;
+    }
+  }
+}
+
+void FormMain::mnu_File_Print_folder() {
+  CompruebaImpresoras();
+  if (Ocupada() || !hayImpresora_) return;
+  const QString carpeta = dialogos_.Carpeta(this, DeTexto(n_->textosSef.GetL_win("Open_WKS_folder")),
+                                            carpetaInicial_.isEmpty() ? QDir::homePath() : carpetaInicial_);
+  if (carpeta.isEmpty()) return;
+  FrmImprimir dialogo({n_->textosPri, dialogos_, Impresora(), n_->datos, 0, 1, carpeta, false,
+                       [this] { mnu_Help_Manual(); }},
+                      this);
+  dialogos_.Modal(dialogo);
+  if (dialogo.ImprimirCancelado() || !EligeSalida(dialogo.Impresora(), {})) return;
+  ImprimeFicheros(dialogo.FicherosElegidos(), dialogo.Eleccion());
+  PintarPagina();
+}
+
+void FormMain::mnu_File_ExportPdf() {
+  if (!HayProblemas() || Ocupada()) return;
+  Documento& doc = n_->doc;
+  const QString ruta = dialogos_.FicheroGuardar(this, T("File_ExportPDF").remove(u'&'), NombrePdf(doc, carpetaInicial_),
+                                                DeTexto(n_->textosPri.GetL_win("PdfFiles")) + QStringLiteral(" (*.pdf)"));
+  if (ruta.isEmpty()) return;
+  QString fallo;
+  bool hecho;
+  {
+    TrabajoOcupado ocupado(n_->s);
+    hecho = EscribePdf(ruta, doc.numPaginas,
+                       [&](int pagina, Canvas& canvas) { PintaPaginaHoja(n_->motor, canvas, doc, pagina); }, &fallo);
+  }
+  ActualizarBotones();
+  if (!hecho) dialogos_.Critico(this, fallo);
+}
+
+void FormMain::mnu_File_MuliColPer() {
+  if (!HayProblemas() || Ocupada()) return;
+  Documento& doc = n_->doc;
+  if (doc.col.cab.POSSOL != 3) {
+    const Respuesta r = dialogos_.Pregunta(this, T("WarnSolucApart"));
+    if (r == Respuesta::Cancelar) return;
+    if (r == Respuesta::Si) PosicionSoluciones(3);
+  }
+  if (!PreguntaGuardar(n_->s, [this] { mnu_File_Save(); })) return;
+  if (doc.ruta.isEmpty()) return;
+  FormMultiColPer dialogo({n_->textosPri, n_->textosSef, dialogos_, almacen_, doc.col, n_->datos, carpetaInicial_},
+                          this);
+  dialogos_.Modal(dialogo);
+  if (!dialogo.Resultado()) return;
+  const QString destino = dialogo.Destino();
+  if (QFileInfo::exists(destino)) return dialogos_.Aviso(this, destino + u'\n' + T("TargetFolderAlreadyExits"));
+  if (!QDir().mkpath(destino)) return dialogos_.Aviso(this, destino + u'\n' + T("CannotCreateTargetFolder"));
+
+  GrupoHecho hecho;
+  {
+    TrabajoOcupado ocupado(n_->s);
+    const std::vector<QString>& alumnos = dialogo.Alumnos();
+    const std::unique_ptr<Avance> avance = dialogos_.EmpiezaAvance(
+        this, DeTexto(n_->textosPri.GetL_win("StudentWorksheets")), static_cast<int>(alumnos.size()));
+    const QString paso = DeTexto(n_->textosPri.GetL_win("MakingStudent"));
+    hecho = HazGrupo(n_->s, {alumnos, dialogo.Distintos(), destino}, [&](int i) {
+      return !avance || avance->Paso(i, Sustituye(paso, {{"%STUDENT%", alumnos[static_cast<std::size_t>(i)]}}));
+    });
+  }
+  PintarPagina();
+  // The copies can be printed at once, as a folder.
+  CompruebaImpresoras();
+  if (!hayImpresora_ || hecho.ficheros.isEmpty()) return;
+  FrmImprimir imprimir({n_->textosPri, dialogos_, Impresora(), n_->datos, 0, 1, destino, false,
+                        [this] { mnu_Help_Manual(); }},
+                       this);
+  dialogos_.Modal(imprimir);
+  if (imprimir.ImprimirCancelado() || !EligeSalida(imprimir.Impresora(), {})) return;
+  ImprimeFicheros(imprimir.FicherosElegidos(), imprimir.Eleccion());
+  PintarPagina();
 }
 
 void FormMain::mnu_Help_Manual() {

@@ -12,6 +12,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "worksheet/plataforma.h"
 
@@ -22,6 +23,7 @@ class QMenu;
 class QTimer;
 class QToolBar;
 class QAbstractButton;
+class QPrinter;
 
 namespace ss {
 
@@ -30,6 +32,7 @@ class Dialogos;
 class FormAcerca;
 class VistaPagina;
 struct Documento;
+struct EleccionImpresion;
 struct Sesion;
 
 inline constexpr int kBotones = 12;
@@ -128,6 +131,15 @@ class FormMain final : public QMainWindow, public Plataforma {
   bool CambiaSistema(const QString& fichero);
   void mnu_setup_App();
   void mnu_COLEC_Prop();
+  void mnu_File_Print();
+  void mnu_File_Print_folder();
+  void mnu_File_ExportPdf();
+  void mnu_File_MuliColPer();
+  QPrinter& Impresora();
+  bool EligeSalida(const QString& impresora, const QString& propuesta);
+  void ImprimeAbierta(const std::vector<int>& orden);
+  void ImprimeFicheros(const QStringList& ficheros, const EleccionImpresion& eleccion);
+  void CompruebaImpresoras();
   void mnu_Help_Manual();
   void mnu_Help_About();
   void ImgLPage_Click();
@@ -169,6 +181,7 @@ class FormMain final : public QMainWindow, public Plataforma {
   bool activado_ = false;
   bool cursorEspera_ = false;
   bool pegable_ = false;  // the clipboard holds a problem
+  bool hayImpresora_ = false;
   QString carpetaInicial_;
 };
 

@@ -20,20 +20,6 @@ namespace {
 constexpr qsizetype kMaxBytesNombre = 240;
 constexpr qsizetype kMaxLetrasAlumno = 140;
 
-// The copies speak to the user through the real window (a save that fails
-// is told), but they are not the window's document: they change neither its
-// title, nor its state, nor the recent files.
-class PlataformaCopia final : public Plataforma {
- public:
-  explicit PlataformaCopia(Plataforma& real) : real_(real) {}
-  void Aviso(const std::string& texto) override { real_.Aviso(texto); }
-  void Critico(const std::string& texto) override { real_.Critico(texto); }
-  void DejaCorrer() override { real_.DejaCorrer(); }
-
- private:
-  Plataforma& real_;
-};
-
 QString Numero(Aleatorio& rnd) {
   return QString::number(static_cast<long long>(std::floor((10 + rnd.Siguiente()) * 1000000)));
 }
@@ -106,7 +92,7 @@ std::string LineaAlumno(const std::string& rotulo, const QString& nombre) {
 
 GrupoHecho HazGrupo(Sesion& s, const PedidoGrupo& pedido, const std::function<bool(int)>& antes) {
   GrupoHecho hecho;
-  PlataformaCopia plataforma(s.plataforma);
+  PlataformaDelegada plataforma(s.plataforma);
   Documento copia;
   copia.col = s.doc.col;
   Sesion c{copia, plataforma, s.gen, s.motor, s.paginaOculta, s.textos, s.carpetas};

@@ -46,4 +46,21 @@ class Plataforma {
 // Says nothing, asks nothing: for tests and batch work.
 class PlataformaMuda : public Plataforma {};
 
+// For a second document beside the open one (a copy for a student, a file
+// printed from a folder): its messages reach the user through the real
+// window, but it changes neither the window's title and state nor the
+// recent files.
+class PlataformaDelegada final : public Plataforma {
+ public:
+  explicit PlataformaDelegada(Plataforma& real) : real_(real) {}
+  void Aviso(const std::string& texto) override { dijo_ = true, real_.Aviso(texto); }
+  void Critico(const std::string& texto) override { dijo_ = true, real_.Critico(texto); }
+  void DejaCorrer() override { real_.DejaCorrer(); }
+  bool Dijo() const { return dijo_; }  // something was told
+
+ private:
+  Plataforma& real_;
+  bool dijo_ = false;
+};
+
 }  // namespace ss

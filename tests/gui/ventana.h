@@ -75,6 +75,21 @@ struct Guion final : Dialogos {
   QString FicheroGuardar(QWidget*, const QString&, const QString&, const QString&) override {
     return ++dialogosGuardar, guardar;
   }
+  QString carpeta;  // the folder the folder dialog gives
+  QString Carpeta(QWidget*, const QString&, const QString&) override { return carpeta; }
+  int configuraciones = 0;
+  void ConfiguraImpresora(QWidget*, QPrinter&) override { ++configuraciones; }
+  // Long runs: each step is noted; the run is stopped before step `paraEn`.
+  QStringList pasos;
+  int paraEn = -1;
+  struct AvanceGuion final : Avance {
+    Guion& g;
+    explicit AvanceGuion(Guion& guion) : g(guion) {}
+    bool Paso(int hecho, const QString& texto) override { return g.pasos << texto, hecho != g.paraEn; }
+  };
+  std::unique_ptr<Avance> EmpiezaAvance(QWidget*, const QString&, int) override {
+    return std::make_unique<AvanceGuion>(*this);
+  }
   RespuestaPanel PanelInicio(FormIniOpt&) override { return ++paneles, panel; }
   // The program's own dialogs: shown, then driven by the test's script,
   // which ends them as a user would (or leaves them open: a cancel).
