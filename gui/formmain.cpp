@@ -1212,16 +1212,15 @@ void FormMain::ImprimeFicheros(const QStringList& ficheros, const EleccionImpres
   const std::unique_ptr<Avance> avance =
       dialogos_.EmpiezaAvance(this, T("File_Print_Fold").remove(u'&'), static_cast<int>(ficheros.size()));
   const QString paso = DeTexto(n_->textosPri.GetL_win("PrintingFile"));
-  PlataformaDelegada plataforma(n_->s.plataforma);
+  PlataformaMuda plataforma;  // a file that does not load is told below, by its name
   for (qsizetype i = 0; i < ficheros.size(); ++i) {
     const QString nombre = QFileInfo(ficheros[i]).fileName();
     if (avance && !avance->Paso(static_cast<int>(i), Sustituye(paso, {{"%FILE%", nombre}}))) break;
     Documento hoja;
     Sesion s{hoja, plataforma, n_->gen, n_->motor, n_->oculta, n_->textos, n_->s.carpetas};
     hoja.ruta = ficheros[i];
-    const bool dicho = plataforma.Dijo();
     if (!CargarColeccion(s) || hoja.col.problemas.empty()) {
-      if (plataforma.Dijo() == dicho) dialogos_.Critico(this, T("InvalidFile") + u'\n' + ficheros[i]);
+      dialogos_.Critico(this, QDir::toNativeSeparators(ficheros[i]) + u'\n' + T("InvalidFile"));
       continue;
     }
     const FinImpresion fin =

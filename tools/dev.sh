@@ -18,7 +18,8 @@ esac
 
 packages=(g++ cmake ninja-build ccache qt6-base-dev libgl-dev libgtest-dev libgmock-dev
           libbenchmark-dev fonts-liberation fonts-dejavu-core poppler-utils
-          adwaita-icon-theme desktop-file-utils appstream xvfb)
+          adwaita-icon-theme desktop-file-utils appstream xvfb
+          cups cups-client printer-driver-cups-pdf)
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")

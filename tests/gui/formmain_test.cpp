@@ -553,6 +553,8 @@ int Rol(int argc, char** argv) {
 int main(int argc, char** argv) {
   if (argc > 1 && std::string(argv[1]) == "--rol") return Rol(argc, argv);
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  // No printer here, whatever the machine has: the printing tests have their own.
+  qputenv("CUPS_SERVER", "/nonexistent/cups.sock");
   ::testing::InitGoogleTest(&argc, argv);
   QApplication app(argc, argv);
   return RUN_ALL_TESTS();
