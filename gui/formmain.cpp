@@ -37,6 +37,7 @@
 #include "gui/frmimprimir.h"
 #include "gui/frmsetup.h"
 #include "gui/frmwizard.h"
+#include "gui/marcos.h"
 #include "gui/vista.h"
 #include "output/grupo.h"
 #include "output/impresion.h"
@@ -62,7 +63,6 @@
 namespace ss {
 namespace {
 
-QString DeTexto(const std::string& s) { return QString::fromUtf8(Cp1252ToUtf8(s).c_str()); }
 std::string ATexto(const QString& s) { return Utf8ToCp1252(s.toUtf8().toStdString()); }
 
 // The splash stays this long unless a click or the first dialog closes it,
@@ -1241,6 +1241,10 @@ void FormMain::mnu_File_Print_folder() {
   const QString carpeta = dialogos_.Carpeta(this, DeTexto(n_->textosSef.GetL_win("Open_WKS_folder")),
                                             carpetaInicial_.isEmpty() ? QDir::homePath() : carpetaInicial_);
   if (carpeta.isEmpty()) return;
+  ImprimeCarpeta(carpeta);
+}
+
+void FormMain::ImprimeCarpeta(const QString& carpeta) {
   FrmImprimir dialogo({n_->textosPri, dialogos_, Impresora(), n_->datos, 0, 1, carpeta, false,
                        [this] { mnu_Help_Manual(); }},
                       this);
@@ -1299,14 +1303,7 @@ void FormMain::mnu_File_MuliColPer() {
   PintarPagina();
   // The copies can be printed at once, as a folder.
   CompruebaImpresoras();
-  if (!hayImpresora_ || hecho.ficheros.isEmpty()) return;
-  FrmImprimir imprimir({n_->textosPri, dialogos_, Impresora(), n_->datos, 0, 1, destino, false,
-                        [this] { mnu_Help_Manual(); }},
-                       this);
-  dialogos_.Modal(imprimir);
-  if (imprimir.ImprimirCancelado() || !EligeSalida(imprimir.Impresora(), {})) return;
-  ImprimeFicheros(imprimir.FicherosElegidos(), imprimir.Eleccion());
-  PintarPagina();
+  if (hayImpresora_ && !hecho.ficheros.isEmpty()) ImprimeCarpeta(destino);
 }
 
 void FormMain::mnu_Help_Manual() {

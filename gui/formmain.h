@@ -139,6 +139,8 @@ class FormMain final : public QMainWindow, public Plataforma {
   bool EligeSalida(const QString& impresora, const QString& propuesta);
   void ImprimeAbierta(const std::vector<int>& orden);
   void ImprimeFicheros(const QStringList& ficheros, const EleccionImpresion& eleccion);
+  // The print window for the worksheets of a folder, then the run it asks for.
+  void ImprimeCarpeta(const QString& carpeta);
   void CompruebaImpresoras();
   void mnu_Help_Manual();
   void mnu_Help_About();

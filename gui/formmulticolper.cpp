@@ -46,9 +46,9 @@ FormMultiColPer::FormMultiColPer(EntornoGrupo entorno, QWidget* parent) : QDialo
   list1_->setObjectName(QStringLiteral("List1"));
   list1_->setSelectionMode(QAbstractItemView::MultiSelection);
   for (std::size_t k = 0; k < e_.col.problemas.size(); ++k) {
-    auto* fila = new QListWidgetItem(QString::fromStdString(Cp1252ToUtf8(cab.PROPRE)) +
+    auto* fila = new QListWidgetItem(DeTexto(cab.PROPRE) +
                                          QString::number(cab.PROINI + static_cast<int>(k)) +
-                                         QString::fromStdString(Cp1252ToUtf8(cab.PROSUF)),
+                                         DeTexto(cab.PROSUF),
                                      list1_);
     fila->setSelected(true);
   }
@@ -140,11 +140,7 @@ void FormMultiColPer::MuestraRutas() {
 }
 
 void FormMultiColPer::Cmd_SEL(int como) {
-  const QSignalBlocker b(list1_);
-  for (int i = 0; i < list1_->count(); ++i) {
-    QListWidgetItem* fila = list1_->item(i);
-    fila->setSelected(como == 0 || (como == 2 && !fila->isSelected()));
-  }
+  EligeFilas(list1_, como);
   ActualizaPista();
 }
 

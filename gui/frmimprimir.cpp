@@ -228,10 +228,7 @@ void FrmImprimir::Copias(int n) {
 }
 
 void FrmImprimir::Cmd_SEL(int como) {
-  for (int i = 0; i < list1_->count(); ++i) {
-    QListWidgetItem* fila = list1_->item(i);
-    fila->setSelected(como == 0 || (como == 2 && !fila->isSelected()));
-  }
+  EligeFilas(list1_, como);
 }
 
 void FrmImprimir::cmdImprimir() {

@@ -25,7 +25,6 @@
 namespace ss {
 namespace {
 
-QString DeTexto(const std::string& s) { return QString::fromUtf8(Cp1252ToUtf8(s).c_str()); }
 std::string A1252(const QString& s) { return Utf8ToCp1252(s.toUtf8().toStdString()); }
 
 // The frames of the window: number, caption key (program / worksheet), and

@@ -32,7 +32,6 @@ namespace {
 constexpr int kImagenesAsignatura = 33;
 constexpr int kRolFila = Qt::UserRole + 1;
 
-QString DeTexto(const std::string& s) { return QString::fromUtf8(Cp1252ToUtf8(s).c_str()); }
 
 QLabel* Titular(const QString& texto, QWidget* parent) {
   auto* l = new QLabel(texto, parent);

@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRadioButton>
@@ -25,7 +26,6 @@ namespace ss {
 namespace {
 
 std::string A1252(const QString& s) { return Utf8ToCp1252(s.toUtf8().toStdString()); }
-QString DeTexto(const std::string& s) { return QString::fromUtf8(Cp1252ToUtf8(s).c_str()); }
 
 // A colour as the header stores it (red + 256 green + 65536 blue).
 QColor ColorCab(int c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF); }
@@ -60,6 +60,16 @@ class CajaTitulo final : public QLineEdit {
 };
 
 }  // namespace
+
+QString DeTexto(const std::string& s) { return QString::fromUtf8(Cp1252ToUtf8(s).c_str()); }
+
+void EligeFilas(QListWidget* lista, int como) {
+  const QSignalBlocker b(lista);
+  for (int i = 0; i < lista->count(); ++i) {
+    QListWidgetItem* fila = lista->item(i);
+    fila->setSelected(como == 0 || (como == 2 && !fila->isSelected()));
+  }
+}
 
 QString TextoW(TextosVentana& t, const char* clave, bool conAmpersand) {
   return DeTexto(t.GetL_win(clave, !conAmpersand));

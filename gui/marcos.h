@@ -9,6 +9,7 @@
 
 #include <array>
 #include <functional>
+#include <string>
 
 #include "worksheet/asistente.h"
 #include "worksheet/coleccion.h"
@@ -17,6 +18,7 @@ class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QListWidget;
 class QRadioButton;
 
 namespace ss {
@@ -25,6 +27,13 @@ class TextosVentana;
 
 // The texts of a dialog: "&" kept for the mnemonic, or taken out.
 QString TextoW(TextosVentana& t, const char* clave, bool conAmpersand = false);
+
+// A text of the data files (Windows-1252) as the screen shows it.
+QString DeTexto(const std::string& s);
+
+// The three buttons under a list of files or problems: 0 selects every row,
+// 1 none, 2 turns each row over. No signal fires while the rows change.
+void EligeFilas(QListWidget* lista, int como);
 
 // School, title and the two additional lines, each small text with its
 // "use as default" box.

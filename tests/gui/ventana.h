@@ -133,7 +133,7 @@ Hojas& H() {
   return h;
 }
 
-QString TextoDe(const std::string& clave) {
+[[maybe_unused]] QString TextoDe(const std::string& clave) {
   TextosVentana t(QCoreApplication::applicationDirPath().toStdString(), "MAI");
   t.LoadIdioma();
   return QString::fromStdString(Cp1252ToUtf8(t.GetL_win(clave)));
