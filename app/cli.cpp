@@ -390,6 +390,7 @@ int ComandoMarkup(const QStringList& args) {
   Servicios servicios;
   ss::Motor motor;
   motor.reemplazos = NotacionPorDefecto(servicios);
+  motor.BuscaImagen = ss::BuscadorDeImagenes(ss::Carpetas{ss::CarpetaDatos(), ss::CarpetaTemporal()});
   QString error;
 
   if (!deArchivo) {

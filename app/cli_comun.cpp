@@ -188,6 +188,7 @@ Trabajo::Trabajo(std::optional<uint64_t> seed)
       s{doc, plataforma, gen, motor, oculta, textos,
         ss::Carpetas{ss::CarpetaDatos(), temporal.Ruta()}} {
   motor.reemplazos = NotacionPorDefecto(servicios);
+  motor.BuscaImagen = ss::BuscadorDeImagenes(s.carpetas);
 }
 
 bool Trabajo::Carga(const QString& ruta) {

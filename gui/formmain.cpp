@@ -122,6 +122,7 @@ struct FormMain::Nucleo {
         s{doc, pl, gen, motor, oculta, textos, Carpetas{datos, temporal.Ruta()}},
         temario(datos, mensajes, [&pl](const std::string& aviso) { pl.Aviso(aviso); }) {
     InitServicios(notacion, mensajes);
+    motor.BuscaImagen = BuscadorDeImagenes(s.carpetas);
   }
 
   QString datos;

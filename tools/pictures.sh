@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Redraws every PNG picture from its SVG source with rsvg-convert
-# (Debian: librsvg2-bin). A developer's tool: the build never runs it, the PNGs
+# Redraws every PNG and GIF picture from its SVG source with rsvg-convert
+# (Debian: librsvg2-bin) and, for the GIFs, ImageMagick's convert
+# (imagemagick). A developer's tool: the build never runs it, the PNGs
 # are kept in the repository. Run it after editing an SVG and commit both.
 #
 #   bash tools/pictures.sh
@@ -59,6 +60,16 @@ for name in kind_question kind_exercise kind_problem kind_theory topic_closed to
             subject_root; do
   both "$name" 16
 done
+
+# Pictures that worksheets name in their text (#IMG): the Lewis structures,
+# as the .gif files the problems ask for, and a piece of apparatus.
+for name in Q_LW_H2O Q_LW_NH3 Q_LW_CH4 Q_LW_CO2; do
+  tmp=$(mktemp --suffix=.png)
+  draw "$img/$name.svg" 240 "$tmp"
+  convert "$tmp" "$img/$name.gif"
+  rm -f "$tmp"
+done
+draw_wh "$img/titration.svg" 240 360 "$img/titration.png"
 
 # The program's icon: in img/, and in the desktop's icon theme at the sizes
 # a desktop asks for, with the SVG itself as the scalable one.

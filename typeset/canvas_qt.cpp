@@ -397,7 +397,12 @@ void CanvasQt::PaintPicture(const std::string& path, double x, double y, double 
   Flush();
   const QImage image(QString::fromStdString(path));
   if (image.isNull()) return;
-  painter_->drawImage(QRectF(x, y, width, height), image);
+  // Always upright: a box given with a negative side is the same box.
+  // Scaled smoothly, and kept lossless in a PDF: line drawings blur as JPEG.
+  painter_->save();
+  painter_->setRenderHints(QPainter::SmoothPixmapTransform | QPainter::LosslessImageRendering);
+  painter_->drawImage(QRectF(x, y, width, height).normalized(), image);
+  painter_->restore();
 }
 
 bool RegistraFuentes() {

@@ -12,6 +12,10 @@ void RegistraRaices(Motor& m);
 void RegistraDelimitadores(Motor& m);
 void RegistraFilas(Motor& m);
 void RegistraDecoraciones(Motor& m);
+void RegistraAnillos(Motor& m);
+void RegistraEnlaces(Motor& m);
+void RegistraEcuaciones(Motor& m);
+void RegistraImagenes(Motor& m);
 
 void RegistraConstrucciones(Motor& m) {
   RegistraFracciones(m);
@@ -20,6 +24,10 @@ void RegistraConstrucciones(Motor& m) {
   RegistraDelimitadores(m);
   RegistraFilas(m);
   RegistraDecoraciones(m);
+  RegistraAnillos(m);
+  RegistraEnlaces(m);
+  RegistraEcuaciones(m);
+  RegistraImagenes(m);
 }
 
 namespace construccion {
@@ -122,6 +130,27 @@ void Paso::Arco(double desde, double hasta, double grosor, double rx, double ry,
 void Paso::Escribe(Caja b, std::string_view bloque) {
   b.Fuente.assign(bloque);
   m.Cajas[caja] = std::move(b);
+}
+
+std::vector<std::pair<int, std::string>> Rotulos(std::string_view texto) {
+  std::vector<std::pair<int, std::string>> rotulos;
+  std::size_t i = 0;
+  while (i + 4 <= texto.size()) {
+    const char k = texto[i + 2];
+    if (texto.substr(i, 2) == "#R" && k >= '1' && k <= '9' && texto[i + 3] == '(') {
+      const std::string abre(texto.substr(i, 4));
+      const std::string cierra = "#R" + std::string(1, k) + ")";
+      bool ok = false;
+      const std::string b = ExtraeBloque(texto.substr(i), abre, cierra, &ok);
+      if (ok) {
+        rotulos.emplace_back(k - '0', b.substr(4, b.size() - 8));
+        i += b.size();
+        continue;
+      }
+    }
+    ++i;
+  }
+  return rotulos;
 }
 
 std::string_view Interior(std::string_view bloque) {

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "typeset/motor.h"
 
@@ -75,6 +76,21 @@ class Paso {
 // empty when the separator is missing.
 std::pair<std::string, std::string> DosArgumentos(std::string_view bloque,
                                                   std::string_view separador);
+// The labels #R1( .. #R9( of a ring or a bond, in the order they stand, with
+// the digit of each; text between them is skipped.
+std::vector<std::pair<int, std::string>> Rotulos(std::string_view texto);
+// What a picture's argument asks for: the file name between the first two
+// quotes, as written, and the options in any case.
+struct PedidoImagen {
+  std::string nombre;
+  double anchoMm = 0, altoMm = 0;  // DXmm=, DYmm=
+  bool marco = false, dist = false;
+};
+PedidoImagen LeeImagen(std::string_view argumento);
+// A picture name names a file of a folder itself: not empty, no folder part,
+// not hidden.
+bool NombreDeImagenValido(const std::string& nombre);
+
 // The text between the open tag and the close tag of a block.
 std::string_view Interior(std::string_view bloque);
 

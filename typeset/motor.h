@@ -43,7 +43,7 @@ using Construccion = void (*)(Motor& m, std::string_view bloque, int caja);
 
 inline constexpr int kMaxCajas = 200;
 inline constexpr int kMaxConstruccionesLinea = 50;
-inline constexpr int kMaxArgumentos = 40;
+inline constexpr int kMaxArgumentos = 100;  // an equation table names up to 99
 inline constexpr int kMaxLineas = 10000;
 inline constexpr int kMaxMarcasTexto = 500;
 
@@ -57,6 +57,9 @@ class Motor {
   bool mostrarBorde = false;
   // Called once per line while composing a page, so that a window stays alive.
   std::function<void()> dejaCorrer;
+  // The file of a picture that a text names (#IMG), as a UTF-8 path; "" when
+  // there is none. Without it every picture shows as missing.
+  std::function<std::string(const std::string& nombre)> BuscaImagen;
 
   // Page frame, in twips; set by ComponerTexto.
   double AnchoPagina = 0, AltoPagina = 0;

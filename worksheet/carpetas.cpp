@@ -1,5 +1,7 @@
 #include "worksheet/carpetas.h"
 
+#include "problems/texto.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -129,6 +131,19 @@ QString BuscaEnCarpeta(const QString& carpeta, const QString& nombre) {
   for (const QString& e : entradas)
     if (e.compare(nombre, Qt::CaseInsensitive) == 0) return dir.filePath(e);
   return {};
+}
+
+QString BuscaImagen(const Carpetas& carpetas, const QString& nombre) {
+  if (nombre.startsWith(QLatin1Char('.')) || nombre.contains(QLatin1Char('\\'))) return {};
+  QString ruta = BuscaEnCarpeta(carpetas.Img(), nombre);
+  if (ruta.isEmpty()) ruta = BuscaEnCarpeta(carpetas.temporal, nombre);
+  return ruta;
+}
+
+std::function<std::string(const std::string&)> BuscadorDeImagenes(const Carpetas& carpetas) {
+  return [carpetas](const std::string& nombre) {
+    return BuscaImagen(carpetas, QString::fromStdString(Cp1252ToUtf8(nombre))).toStdString();
+  };
 }
 
 }  // namespace ss

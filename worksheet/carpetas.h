@@ -4,6 +4,9 @@
 
 #include <QString>
 
+#include <functional>
+#include <string>
+
 namespace ss {
 
 // The folder of the program's data: lang/, img/, the .sed files, examples/
@@ -50,5 +53,14 @@ class UsoCarpetaTemporal {
 // `nombre` in `carpeta`: the exact name first, else one that differs only in
 // case; empty when there is none.
 QString BuscaEnCarpeta(const QString& carpeta, const QString& nombre);
+
+// A picture that a worksheet's text names: the program's img/ first, then
+// the scratch folder, each by the exact name and then ignoring case. Empty
+// when neither has it, or when the name has a folder part or starts with ".".
+QString BuscaImagen(const Carpetas& carpetas, const QString& nombre);
+
+// The same lookup as the typesetter asks for it: a name in the text's
+// encoding in, a UTF-8 path out.
+std::function<std::string(const std::string&)> BuscadorDeImagenes(const Carpetas& carpetas);
 
 }  // namespace ss

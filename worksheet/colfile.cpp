@@ -574,8 +574,7 @@ Guardado Guarda(Sesion& s) {
     std::size_t p = texto.size() + kEntradaImagen * nombres.size() + 1;
     for (const std::string& nombre : nombres) {
       const QString q = RutaDeTexto(nombre);
-      QString fichero = BuscaEnCarpeta(s.carpetas.Img(), q);
-      if (fichero.isEmpty()) fichero = BuscaEnCarpeta(s.carpetas.temporal, q);
+      const QString fichero = BuscaImagen(s.carpetas, q);
       std::string bytes;
       if (fichero.isEmpty() || LeeFichero(fichero, bytes, kMaxTamanoColeccion) != Leido::Bien) {
         s.plataforma.Critico(nombre + std::string(kSalto) + s.textos.GetL_win("CantSaveImage"));

@@ -43,7 +43,7 @@ TEST(Grupo, FileNamesAreSafeAndFit) {
   for (const auto& [nombre, fichero] : casos) EXPECT_EQ(NombreDeFichero(nombre, rnd), fichero);
   const QString largo = NombreDeFichero(QString(300, QChar(0xF1)), rnd);  // ñ: two bytes each
   EXPECT_EQ(largo.toUtf8().size(), 240);
-  for (const QString signos : {QStringLiteral("***"), QStringLiteral("..."), QString::fromUtf8("Ωμέγα")})
+  for (const QString& signos : {QStringLiteral("***"), QStringLiteral("..."), QString::fromUtf8("Ωμέγα")})
     EXPECT_TRUE(QRegularExpression("^[0-9]{7,8}$").match(NombreDeFichero(signos, rnd)).hasMatch()) << signos.toStdString();
   EXPECT_EQ(NombreCarpetaGrupo(QDateTime(QDate(2026, 3, 4), QTime(5, 6, 7))), "26-03-04-05-06-07");
 }
