@@ -141,12 +141,11 @@ std::vector<std::pair<int, std::string>> Rotulos(std::string_view texto) {
       const std::string abre(texto.substr(i, 4));
       const std::string cierra = "#R" + std::string(1, k) + ")";
       bool ok = false;
+      // A label never closed reads as the red error word, as any construct does.
       const std::string b = ExtraeBloque(texto.substr(i), abre, cierra, &ok);
-      if (ok) {
-        rotulos.emplace_back(k - '0', b.substr(4, b.size() - 8));
-        i += b.size();
-        continue;
-      }
+      rotulos.emplace_back(k - '0', b.substr(4, b.size() - 8));
+      i += ok ? b.size() : abre.size();
+      continue;
     }
     ++i;
   }

@@ -71,10 +71,9 @@ Tabla LeeTabla(std::string_view dentro) {
     const std::string abre(celdas.substr(i, 5));
     bool ok = false;
     const std::string b = ExtraeBloque(celdas.substr(i), abre, "#A" + std::string{c, r} + ")", &ok);
-    if (!ok) continue;
     if (c - '0' <= static_cast<int>(t.cabeza.size()) && r - '0' <= t.filas)
       t.celda[c - '1'][r - '0'] = b.substr(5, b.size() - 10);
-    i += b.size() - 1;
+    i += (ok ? b.size() : abre.size()) - 1;
   }
   return t;
 }

@@ -18,8 +18,7 @@ std::pair<std::string, std::string> Prefijo(const std::string& rotulo) {
   if (!rotulo.starts_with("#LP(")) return {{}, rotulo};
   bool ok = false;
   const std::string b = ExtraeBloque(rotulo, "#LP(", "#LP)", &ok);
-  if (!ok) return {{}, rotulo};
-  return {b.substr(4, b.size() - 8), rotulo.substr(b.size())};
+  return {b.substr(4, b.size() - 8), rotulo.substr(ok ? b.size() : 4)};
 }
 
 char Tipo(char c) {

@@ -130,6 +130,38 @@ TEST(CanvasQt, UnderlineAndStrikeOutAreOneRulePerRun) {
   }
 }
 
+// A picture fills its box upright whatever the signs of the box's sides, on
+// the screen and in a PDF, where it is kept without loss.
+TEST(CanvasQt, PicturesStandUprightInTheirBoxAndStayLosslessInAPdf) {
+  QTemporaryDir dir;
+  QImage foto(4, 4, QImage::Format_RGB32);
+  foto.fill(Qt::blue);
+  for (int x = 0; x < 4; ++x) foto.setPixel(x, 0, qRgb(255, 0, 0)), foto.setPixel(x, 1, qRgb(255, 0, 0));
+  const std::string ruta = dir.filePath("half.png").toStdString();
+  ASSERT_TRUE(foto.save(QString::fromStdString(ruta)));
+  for (double alto : {600.0, -600.0}) {
+    QImage image(100, 100, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    {
+      QPainter painter(&image);
+      painter.scale(1.0 / 15, 1.0 / 15);
+      CanvasQt c(&painter, TipoCanvas::Pantalla);
+      c.PaintPicture(ruta, 150, alto > 0 ? 150 : 750, 600, alto);  // pixels 10..50 either way
+    }
+    EXPECT_EQ(image.pixel(30, 15), qRgb(255, 0, 0)) << alto;
+    EXPECT_EQ(image.pixel(30, 45), qRgb(0, 0, 255)) << alto;
+    EXPECT_EQ(image.pixel(55, 30), qRgb(255, 255, 255)) << alto;
+  }
+  if (QStandardPaths::findExecutable("pdfimages").isEmpty()) GTEST_SKIP() << "no pdfimages";
+  const QString pdf = dir.filePath("p.pdf");
+  ASSERT_TRUE(EscribePdf(pdf, 1, [&](int, Canvas& c) { c.PaintPicture(ruta, 1440, 1440, 1440, 1440); }, nullptr));
+  QProcess p;
+  p.start("pdfimages", {"-list", pdf});
+  ASSERT_TRUE(p.waitForFinished());
+  const QString lista = QString::fromUtf8(p.readAllStandardOutput());
+  EXPECT_TRUE(lista.contains(" image ") && !lista.contains("jpeg")) << lista.toStdString();
+}
+
 // A PDF keeps its words, Greek letters and signs as their Unicode characters.
 TEST(CanvasQt, PdfTextCanBeSearched) {
   if (QStandardPaths::findExecutable("pdftotext").isEmpty()) GTEST_SKIP() << "no pdftotext";

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "typeset/canvas.h"
+#include "typeset/motor.h"
 
 namespace ss::test {
 
@@ -51,6 +52,27 @@ class CanvasRegistro : public Canvas {
     for (const Trazo& t : trazos) s += t.texto;
     return s;
   }
+};
+
+// Pass 1 of one line and, with `dibuja`, pass 2 from the top left corner
+// (0, 0); the first construct of the line is box 2.
+struct Linea {
+  CanvasRegistro c;
+  Motor m;
+  explicit Linea(std::string_view texto, double tamano = 12, bool dibuja = false,
+                 std::function<std::string(const std::string&)> imagenes = {}) {
+    c.fuente.tamano = tamano;
+    m.canvas = &c;
+    m.AnchoPagina = 1e6;
+    m.BuscaImagen = std::move(imagenes);
+    m.InterpretaTexto(texto);
+    if (!dibuja) return;
+    m.PasoDibujo = true;
+    m.NumCaja = 1;
+    c.CurrentX = c.CurrentY = 0;
+    m.InterpretaTexto(texto);
+  }
+  const Caja& Construccion() const { return m.Cajas[2]; }
 };
 
 }  // namespace ss::test

@@ -12,29 +12,11 @@ namespace ss {
 namespace {
 
 using test::CanvasRegistro;
+using test::Linea;
 
 constexpr double kH = 276;
 constexpr double kLetra = 122;  // 120 and one twip of spacing each side
 constexpr double kEje = 0.574 * kH;
-
-// Pass 1 of one line and, with `dibuja`, pass 2 from the top left corner
-// (0, 0); the construct is the first one, box 2.
-struct Linea {
-  CanvasRegistro c;
-  Motor m;
-  explicit Linea(std::string_view texto, double tamano = 12, bool dibuja = false) {
-    c.fuente.tamano = tamano;
-    m.canvas = &c;
-    m.AnchoPagina = 1e6;
-    m.InterpretaTexto(texto);
-    if (!dibuja) return;
-    m.PasoDibujo = true;
-    m.NumCaja = 1;
-    c.CurrentX = c.CurrentY = 0;
-    m.InterpretaTexto(texto);
-  }
-  const Caja& Construccion() const { return m.Cajas[2]; }
-};
 
 TEST(Fraction, BoxFloorsCentringAndTheBarOnTheAxis) {
   Linea l("#COC(1#N)(2#COC)");

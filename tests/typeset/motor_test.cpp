@@ -96,7 +96,7 @@ TEST(Drawing, WhatIsPrintedAndWhereTheLastLineStands) {
       {"non-electrolyte a-b \xE9-\xE0", "non-electrolyte a-b \xE9-\xE0", 0},
       {"2-b x - 2 -a a- (-3)", "2\x96" "b x \x96 2 \x96" "a a\x96 (\x96" "3)", 0},
       {Repite("x", 70) + " poly&_ethylene", Repite("x", 70) + " poly-ethylene", kH + kQuinto},
-      {"#A3V(&EC=SDS:#A3V)x&EC=S", "x", 0},
+      {"#A3V(&EC=SDS:#A3V)x&EC=S", "x", (1.5 - 0.574 + 0.05) * kH},  // the triangle's tip stands above the line
       {"H_2O&LFy", "H2Oy", 1.1 * kH + kQuinto},
       {"780_ 000&.005_ 2&LFy", "780 000.005 2y", kH + kQuinto},
       {"ab&FC=red cd&LFnext", "abnext", kH + kQuinto},  // a first line cut short

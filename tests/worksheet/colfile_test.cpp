@@ -7,6 +7,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 #include <functional>
+#include "tests/typeset/canvas_registro.h"
 #include "tests/worksheet/banco.h"
 
 namespace ss {
@@ -151,6 +152,11 @@ TEST(ColFile, PicturesTravelInsideTheFileAndReplaceOldCopies) {
     EXPECT_EQ(QDir(b.s.carpetas.temporal).entryList(QDir::Files, QDir::Name).join(' '),
               propia.isEmpty() ? "beaker.PNG flask.gif" : "flask.gif");
     EXPECT_EQ(Lee(b.Temp("flask.gif")) + Lee(b.Temp("beaker.PNG")), flask + (propia.isEmpty() ? beaker : "<missing>"));
+    // The page draws the picture from where the file put it.
+    test::Linea l(b.doc.col.problemas[0].Enunciado, 12, true, BuscadorDeImagenes(b.s.carpetas));
+    ASSERT_EQ(l.c.imagenes.size(), 1u);
+    EXPECT_EQ(QString::fromStdString(l.c.imagenes[0].ruta),
+              propia.isEmpty() ? b.Temp("beaker.PNG") : b.programa.path() + "/img/BEAKER.png");
     ASSERT_TRUE(b.Guarda(b.Ruta("again.col")));
     EXPECT_TRUE(!propia.isEmpty() || Lee(b.Ruta("again.col")) == f);
   }
