@@ -50,4 +50,31 @@ void BM_DrawnPage(benchmark::State& state) {
 }
 BENCHMARK(BM_DrawnPage)->Unit(benchmark::kMillisecond);
 
+// A page of organic structures, equilibrium tables and Lewis pictures, as a
+// nomenclature or equilibrium worksheet has them, drawn into an image; every
+// picture is read from its file in both passes.
+void BM_DrawnPageOfDrawings(benchmark::State& state) {
+  std::string texto;
+  for (int i = 1; i <= 4; ++i) {
+    texto += "#MARK=" + std::to_string(100 + i) + "&LF";
+    texto += "a) #BCV(SXSXXX#R1(CH_3#R1)#R3(CH_3#R3)#BCV) b) #A6V(&EC=SDSSSS:#A6V) "
+             "c) CH_3-CH_2-#UDB(CSX#R1(CH_3#R1)#UDB)H-CH_3 d) #A5L(DXXXX#R1(O#R1)#A5L)&LF";
+    texto += "#CEQ(3'H_2 + I_2 &Q 2HI'#A11(Initial#A11)#A21(0.50#A21)#A31(0.50#A31)#A51(0#A51)"
+             "#A12(Change#A12)#A22(-x#A22)#A32(-x#A32)#A52(+2x#A52)#A13(Equilibrium#A13)"
+             "#A23(0.50 - x#A23)#A33(0.50 - x#A33)#A53(2x#A53)#CEQ)&LF";
+    texto += "#IMG('Q_LW_H2O.gif'DXmm=22:DYmm=22:#IMG) #IMG('Q_LW_NH3.gif'DXmm=22:DYmm=22:#IMG)&LF";
+  }
+  QImage image(796, 1125, QImage::Format_RGB32);
+  ss::Motor motor;
+  motor.BuscaImagen = [](const std::string& nombre) { return std::string(SS_SOURCE_DIR "/img/") + nombre; };
+  for (auto _ : state) {
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.scale(1.0 / 15, 1.0 / 15);
+    ss::CanvasQt canvas(&painter, ss::TipoCanvas::Pantalla);
+    motor.ComponerTexto(texto, 12, canvas);
+  }
+}
+BENCHMARK(BM_DrawnPageOfDrawings)->Unit(benchmark::kMillisecond);
+
 }  // namespace
