@@ -1,6 +1,8 @@
 // Stoichiometry.
 #include "modules/modulos.h"
 
+#include "modules/ANEU_QUIM_ETQ/etq.h"
+
 namespace ss::mod {
 namespace {
 
@@ -19,7 +21,7 @@ constexpr Entrada kEntradas[6] = {
 
 // Generators 1..6, in the order of their numbers. An empty slot is a
 // generator not written yet: its problems come out as the fallback notice.
-constexpr Generador kGeneradores[6] = {};
+constexpr Generador kGeneradores[6] = {nullptr, nullptr, nullptr, nullptr, etq::Generador5, nullptr};
 
 }  // namespace
 
