@@ -74,6 +74,8 @@ struct DobleCambio {
 DobleCambio AjustaDobleCambio(const Ion& c1, const Ion& a1, const Ion& c2, const Ion& a2);
 
 // Generators, by number.
+void Generador1(GenContext& g);  // amounts of one reaction from one given amount
 void Generador5(GenContext& g);  // a list of equations to balance
+void Generador6(GenContext& g);  // the same from a mass or moles only
 
 }  // namespace ss::mod::etq

@@ -16,6 +16,7 @@ namespace ss::mod::etq {
 namespace {
 
 using Atomos = std::map<std::string, int>;
+using test::Tras;
 
 // The atoms of a formula in markup: "Al_2(SO_4)_3", "C_4H_1_0" (a subscript
 // of two digits is written digit by digit), "(NH_4)_2SO_4".
@@ -101,11 +102,15 @@ TEST(Stoichiometry, EveryReactionOfTheTableIsBalancedWithRealMolarMasses) {
     const ReaccionETQ r = Reaccion(fila);
     Ajustada(r.ajustada, r.sinAjustar);
     for (const Sustancia& s : r.s)
-      if (s.coef != 0) EXPECT_NEAR(s.masaMolar, MasaMolar(s.formula), std::max(0.005 * s.masaMolar, 0.05)) << s.formula;
+      if (s.coef != 0) {
+        EXPECT_NEAR(s.masaMolar, MasaMolar(s.formula), std::max(0.005 * s.masaMolar, 0.05)) << s.formula;
+      }
     EXPECT_EQ(r.nReactivos + r.nProductos, 3 + (r.s[3].coef != 0));
     // A solution of it can be made: no hydroxide that barely dissolves stands as one.
     for (const Sustancia& s : r.s)
-      if (s.fase == "ac") EXPECT_TRUE(s.formula != "Ca(OH)_2" && s.formula != "Al(OH)_3") << s.formula;
+      if (s.fase == "ac") {
+        EXPECT_TRUE(s.formula != "Ca(OH)_2" && s.formula != "Al(OH)_3") << s.formula;
+      }
   }
 }
 
@@ -146,6 +151,109 @@ TEST(Stoichiometry, IonicFormulasAndDoubleExchangesAreBalanced) {
           ASSERT_EQ(Lado(d.ecuacion.substr(0, f)), Lado(d.ecuacion.substr(f + 4))) << d.ecuacion;
           EXPECT_EQ(std::gcd(std::gcd(d.coef[0], d.coef[1]), std::gcd(d.coef[2], d.coef[3])), 1) << d.ecuacion;
         }
+}
+
+// Generators 1 and 6 read as a student reads them: the equation names the
+// reaction, the statement one amount of one substance; every answer follows
+// from the coefficients and molar masses of the test's own atomic masses.
+TEST(Stoichiometry, AmountsOfOneReactionFollowFromTheGivenOne) {
+  constexpr double R = 0.082057;
+  std::set<int> vistas;
+  for (int gen : {1, 6})
+    for (int v = 0; v < 12; ++v)
+      for (uint64_t semilla = 1; semilla <= 25; ++semilla) {
+        GenContext g(&test::Textos(), Aleatorio(semilla * 7919 + v));
+        std::string st, so;
+        GeneraProblema(g, "ANEU_QUIM_ETQ", ZeroPadCut(gen, 3) + "000" + ZeroPadCut(v, 4) + "000301", st, so);
+        SCOPED_TRACE(st + "\n" + so);
+        ASSERT_FALSE(std::regex_search(st + so, std::regex("%[A-Za-z0-9_]+%|<Error|nan|inf"))) << "a whole problem";
+        // The reaction, by the equation shown.
+        int fila = 0;
+        for (int f = 1; f <= kReacciones && !fila; ++f) {
+          const ReaccionETQ r = Reaccion(f);
+          if (st.find(r.ajustada + ",") != std::string::npos || st.find(r.sinAjustar + ",") != std::string::npos ||
+              st.find(r.sinAjustar + "    " + test::Texto("Ecua_No_Ajustada")) != std::string::npos)
+            fila = f;
+        }
+        ASSERT_NE(fila, 0);
+        const ReaccionETQ r = Reaccion(fila);
+        const bool ajustada = st.find(r.ajustada) != std::string::npos;
+        EXPECT_EQ(ajustada || r.ajustada == r.sinAjustar, st.find(test::Texto("Ecua_No_Ajustada")) == std::string::npos);
+        auto nombre = [&](int k) { return test::Texto(r.s[k].nombre); };
+        // The molar masses the statement lists, which agree with the atomic masses.
+        std::map<std::string, double> masas;
+        const std::string lista = Tras(st, test::Texto("Masas_molares") + ": ");
+        static const std::regex par(R"(([A-Za-z0-9_()]+) = (\d+(?:&\.\d+)?))");
+        for (std::sregex_iterator it(lista.begin(), lista.end(), par), end; it != end; ++it)
+          masas[(*it)[1]] = test::Numeros((*it)[2].str())[0];
+        auto MasaMolar = [&](std::string_view f) {
+          EXPECT_NEAR(masas.at(std::string(f)), etq::MasaMolar(f), 0.5) << f;
+          return masas.at(std::string(f));
+        };
+        auto sustancia = [&](const std::string& antes, const std::string& despues) {
+          for (int k = 0; k < 4; ++k)
+            if (r.s[k].coef != 0 && st.find(antes + nombre(k) + despues) != std::string::npos) return k;
+          return -1;
+        };
+        const test::Datos d(st);
+        const double T = d.En("\xB0" "C") + 273.15, P = d.En("atm");
+        std::smatch m;
+        const double pureza = std::regex_search(st, m, std::regex(R"((\d+)_ %)")) ? std::stod(m[1]) : 100;
+        // The given amount, in moles of the substance it is of.
+        double n = NAN;
+        int k = -1;
+        if (st.find("are to be made") != std::string::npos) {
+          k = sustancia("g of ", " are to be made");
+          n = d.En("g") / MasaMolar(r.s[k].formula);
+        } else if ((k = sustancia("mL of a " + Tras(st, "mL of a ").substr(0, Tras(st, "mL of a ").find("solution of ") + 12), "")) >= 0) {
+          n = d.En("mL") / 1000 * d.En("mol/L");
+        } else if ((k = sustancia("g of ", "")) >= 0) {
+          n = d.En("g") * pureza / 100 / MasaMolar(r.s[k].formula);
+        } else if ((k = sustancia("mol of ", "")) >= 0) {
+          n = d.En("mol");
+        } else if ((k = sustancia("L of ", ", measured")) >= 0) {
+          n = P * d.En("L") / R / T;
+        }
+        ASSERT_GE(k, 0);
+        vistas.insert(gen * 100 + fila);
+        auto moles = [&](int j) { return n / std::fabs(r.s[k].coef) * std::fabs(r.s[j].coef); };
+        // The questions, in order, and what each asks.
+        std::vector<double> esperadas;
+        for (const char* letra : {"a)&-B ", "b)&-B "}) {
+          const std::string q = test::Tras(st, letra);
+          for (int j = 0; j < 4; ++j) {
+            if (r.s[j].coef == 0) continue;
+            const std::string x = nombre(j);
+            const double M = MasaMolar(r.s[j].formula);
+            const std::string solucion = "solution of " + x;
+            if (q == "the mass of " + x + " formed." || q == "the mass of " + x + " that is needed.")
+              esperadas.push_back(moles(j) * M);
+            else if (q == "the mass of the impure " + x + " that is needed.")
+              esperadas.push_back(moles(j) * M * 100 / pureza);
+            else if (q == "the amount of " + x + " formed, in moles." || q == "the amount of " + x + " that is needed, in moles.")
+              esperadas.push_back(moles(j));
+            else if (q.starts_with("the volume of " + x + " formed, measured") || q.starts_with("the volume of " + x + " that is needed, measured"))
+              esperadas.push_back(moles(j) * R * T / P);
+            else if (q == "the volume of the " + x + " solution that is needed.") {
+              const std::size_t at = st.find(" mol/L " + solucion);
+              ASSERT_NE(at, std::string::npos) << "the molarity of " << x << " is given";
+              esperadas.push_back(moles(j) / test::Numeros(st.substr(st.rfind(" a ", at), at - st.rfind(" a ", at))).back() * 1000);
+            }
+          }
+        }
+        const std::vector<test::Mostrado> dadas = test::Respuestas(so);
+        ASSERT_EQ(esperadas.size(), 2u);
+        ASSERT_EQ(dadas.size(), 2u);
+        // Four significant figures, also where the zeros of a whole number are not shown as such.
+        for (int j = 0; j < 2; ++j) test::EsperaCerca(dadas[j], esperadas[j], 5.01e-4 * std::fabs(esperadas[j]));
+        // Real conditions: a gas stays a gas, water stays liquid for a solution.
+        if (d.Tiene("atm")) {
+          EXPECT_TRUE(P >= 0.5 && P <= 5) << P;
+          EXPECT_TRUE(T >= 273.15 && T <= (r.AcReactivo ? 363.15 : 673.15)) << T;
+        }
+        if (gen == 6) EXPECT_TRUE(d.Tiene("g") || d.Tiene("mol"));
+      }
+  EXPECT_GE(vistas.size(), 25u) << "most reactions of the table come up";
 }
 
 TEST(Stoichiometry, ListsOfEquationsToBalance) {
