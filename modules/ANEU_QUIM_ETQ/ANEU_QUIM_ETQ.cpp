@@ -21,7 +21,7 @@ constexpr Entrada kEntradas[6] = {
 
 // Generators 1..6, in the order of their numbers. An empty slot is a
 // generator not written yet: its problems come out as the fallback notice.
-constexpr Generador kGeneradores[6] = {etq::Generador1, nullptr, nullptr, nullptr, etq::Generador5, etq::Generador6};
+constexpr Generador kGeneradores[6] = {etq::Generador1, etq::Generador2, etq::Generador3, nullptr, etq::Generador5, etq::Generador6};
 
 }  // namespace
 

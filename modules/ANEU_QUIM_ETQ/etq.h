@@ -75,6 +75,8 @@ DobleCambio AjustaDobleCambio(const Ion& c1, const Ion& a1, const Ion& c2, const
 
 // Generators, by number.
 void Generador1(GenContext& g);  // amounts of one reaction from one given amount
+void Generador2(GenContext& g);  // reaction yield
+void Generador3(GenContext& g);  // limiting reagent
 void Generador5(GenContext& g);  // a list of equations to balance
 void Generador6(GenContext& g);  // the same from a mass or moles only
 

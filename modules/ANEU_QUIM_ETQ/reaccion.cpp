@@ -32,6 +32,7 @@ bool Admite(int t, const ReaccionETQ& r) {
 struct Cantidades {
   ReaccionETQ r;
   double T = 25, P = 1, pureza = 100;
+  double rendimiento = 100;  // % of the products the reaction gives
   std::array<double, 2> molar{}, volDis{};
   std::array<double, 4> moles{}, masa{}, volGas{};
   int id = 2, id2 = 2;  // the products asked about (0-based substance numbers)
@@ -64,7 +65,7 @@ void Resto(Cantidades& c) {
   for (int k = 0; k < 4; ++k) {
     const Sustancia& s = c.r.s[k];
     if (s.coef == 0) continue;
-    c.moles[k] = std::fabs(c.moles[0] / c.r.s[0].coef * s.coef);
+    c.moles[k] = std::fabs(c.moles[0] / c.r.s[0].coef * s.coef) * (s.coef > 0 ? c.rendimiento / 100 : 1);
     c.masa[k] = c.moles[k] * s.masaMolar;
     c.volGas[k] = c.moles[k] * kR * (c.T + 273.15) / c.P;
     if (k < 2) c.volDis[k] = c.moles[k] / c.molar[k] * 1000;
@@ -122,6 +123,7 @@ void Rellena(GenContext& g, const Cantidades& c, std::string& t) {
       {"%VOLDIS1%", N4(c.volDis[0]) + "& mL"},     {"%VOLDIS2%", N4(c.volDis[1]) + "& mL"},
       {"%MOLAR1%", N4(c.molar[0]) + "& mol/L"},    {"%MOLAR2%", N4(c.molar[1]) + "& mol/L"},
       {"%RIQUE%", NumTexto(c.pureza) + "_ %"},     {"%ECUANOAJU%", c.ecuacion},
+      {"%REN%", NumTexto(c.rendimiento) + "_ %"},
       {"%MASAID2%", N4(c.masa[c.id2]) + "& g"},    {"%VOLID%", N4(c.volGas[c.id]) + "& L"},
       {"%T%", NumTexto(c.T) + "& \xB0" "C"},       {"%P%", N4(c.P) + "& atm"},
       {"%deNN1%", DeNombre(nombre(0), false)},     {"%deNN2%", DeNombre(nombre(1), false)},
@@ -131,6 +133,24 @@ void Rellena(GenContext& g, const Cantidades& c, std::string& t) {
   };
   for (const auto& [de, por] : r) ReplaceAll(t, de, por);
   ReplaceAll(t, "?.", "?");
+}
+
+// The molar masses the answers use, so that the page holds every datum.
+std::string LineaMasas(GenContext& g, const ReaccionETQ& r) {
+  std::string masas;
+  for (const Sustancia& x : r.s)
+    if (x.coef != 0) masas += (masas.empty() ? "" : ",  ") + std::string(x.formula) + " = " + NumTexto(x.masaMolar);
+  return g.MsgQUI("Masas_molares") + ": " + masas + " (g/mol)&LF";
+}
+
+// The amount of substance 1 drawn: a mass (dado 0, of purity c.pureza),
+// moles (1) or a gas volume (2).
+void DibujaDado(GenContext& g, Cantidades& c, int dado) {
+  double masa = AleatorioEn(g.rnd, 8, 60, 1, 1);
+  if (AzarSupera(g.rnd, 0.8)) masa = AleatorioEn(g.rnd, 60, 500, 5, 1);
+  c.moles[0] = masa * c.pureza / 100 / c.r.s[0].masaMolar;
+  if (dado == 1) c.moles[0] = AleatorioEn(g.rnd, 2, 90, 1, 1) / 10;
+  if (dado == 2) c.moles[0] = c.P * (AleatorioEn(g.rnd, 20, 2000, 1, 1) / 10) / kR / (c.T + 273.15);
 }
 
 void Reaccion(GenContext& g, bool soloSimple) {
@@ -147,11 +167,7 @@ void Reaccion(GenContext& g, bool soloSimple) {
   for (double& m : c.molar) m = AleatorioEn(g.rnd, 3, 50, 5, 1) / 10;
   c.pureza = AleatorioEn(g.rnd, 55, 95, 1, 1);
   if (AzarSupera(g.rnd, 0.4)) c.pureza = 100;
-  double masa = AleatorioEn(g.rnd, 8, 60, 1, 1);
-  if (AzarSupera(g.rnd, 0.8)) masa = AleatorioEn(g.rnd, 60, 500, 5, 1);
-  c.moles[0] = masa * c.pureza / 100 / c.r.s[0].masaMolar;
-  if (t >= 4 && t <= 6) c.moles[0] = AleatorioEn(g.rnd, 2, 90, 1, 1) / 10;
-  if (t >= 7 && t <= 9) c.moles[0] = c.P * (AleatorioEn(g.rnd, 20, 2000, 1, 1) / 10) / kR / (c.T + 273.15);
+  DibujaDado(g, c, t >= 10 ? 0 : (t - 1) / 3);  // a solution volume comes from a drawn mass
   Resto(c);
   Productos(g, c);
 
@@ -195,21 +211,126 @@ void Reaccion(GenContext& g, bool soloSimple) {
     ra = N4(respuesta[dado]) + std::string(kUnidad[dado]);
     rb = N4(c.moles[c.id]) + " mol.&LF";
   }
-  // The molar masses the answers use, so that the page holds every datum.
-  std::string masas;
-  for (const Sustancia& x : c.r.s)
-    if (x.coef != 0) masas += (masas.empty() ? "" : ",  ") + std::string(x.formula) + " = " + NumTexto(x.masaMolar);
-  std::string st = g.MsgQUI(apertura) + "&LF" + g.MsgQUI("Masas_molares") + ": " + masas + " (g/mol)&LF" +
-                   g.MsgQUI("DCH") + ":&LF&SP=5:&+Ba)&-B " + g.MsgQUI(qa) +
+  std::string st = g.MsgQUI(apertura) + "&LF" + LineaMasas(g, c.r) + g.MsgQUI("DCH") + ":&LF&SP=5:&+Ba)&-B " + g.MsgQUI(qa) +
                    ".&LF&SP=5:&+Bb)&-B " + g.MsgQUI(qb) + ".&LF";
   Rellena(g, c, st);
   g.GP_Statement = st;
   g.GP_Solution = "&SP=10:&+Ba)&-B " + ra + "&+Bb)&-B " + rb;
 }
 
+// Yield: the products the reaction really gives, or the yield from what it gave.
+void Rendimiento(GenContext& g) {
+  int t = g.GP_SeqB % 8 + 1;
+  if (AzarSupera(g.rnd, 0.8)) t = static_cast<int>(AleatorioEn(g.rnd, 1, 8, 1, 1));
+  if (t == 3 || t == 6) t = static_cast<int>(AleatorioEn(g.rnd, 1, 8, 1, 1));
+  if (t == 3 || t == 6) t = static_cast<int>(AleatorioEn(g.rnd, 1, 2, 1, 1));
+  const bool pideRendimiento = AzarSupera(g.rnd, 0.5);
+  const bool gas = t == 2 || t == 5 || t == 8;
+  Cantidades c;
+  do c.r = DrawReaccionETQ(g);
+  while ((gas && !c.r.GasProducto) || ((t == 7 || t == 8) && (!c.r.GasReactivo || c.r.AcReactivo)));
+  c.ecuacion = EcuacionMostrada(g, c.r);
+  Condiciones(g, c, 0.5, 0.5);
+  for (double& m : c.molar) m = AleatorioEn(g.rnd, 3, 50, 5, 1) / 10;
+  c.pureza = AleatorioEn(g.rnd, 55, 90, 1, 1);
+  if (AzarSupera(g.rnd, 0.2)) c.pureza = 100;
+  c.rendimiento = AleatorioEn(g.rnd, 30, 85, 1, 1);
+  const int dado = (t - 1) / 3;
+  DibujaDado(g, c, dado);
+  Resto(c);
+  Productos(g, c);
+  DesdeLoMostrado(c, dado, 0);
+
+  static constexpr std::string_view kApertura[3] = {"ETQ_ecu_Masa%_NN1", "ETQ_ecu_Moles_NN1", "ETQ_ecu_VolGASTP_NN1"};
+  std::string apertura(kApertura[dado]);
+  ReplaceAll(apertura, "%", c.pureza == 100 ? "Pur" : "Imp");
+  std::string segunda, preguntas, sol;
+  auto pregunta = [&](char letra, std::string_view clave) {
+    return "&SP=5:&+B" + std::string(1, letra) + ")&-B " + g.MsgQUI(clave) + ".&LF";
+  };
+  if (!pideRendimiento) {
+    segunda = "ETQ_Rendim_es";
+    if (!gas) {
+      preguntas = pregunta('a', "Hallar_Masa_IDPROD2") + pregunta('b', "Hallar_Mol_IDPROD");
+      sol = N4(c.masa[c.id2]) + " g,      &+Bb)&-B " + N4(c.moles[c.id]) + " mol.&LF";
+    } else {
+      preguntas = pregunta('a', "Hallar_Vol_IDPROD_TP") + pregunta('b', "Hallar_Masa_IDPROD2");
+      sol = N4(c.volGas[c.id]) + " L,      &+Bb)&-B " + N4(c.masa[c.id2]) + " g.&LF";
+    }
+  } else {
+    // What was obtained is given as the page shows it; the yield follows from it.
+    const int dado = gas ? c.id : c.id2;
+    const double teorico = c.moles[dado] * 100 / c.rendimiento;
+    const double obtenido = gas ? c.P * Cifras4(c.volGas[c.id]) / kR / (c.T + 273.15)
+                                : Cifras4(c.masa[c.id2]) / c.r.s[c.id2].masaMolar;
+    const double rendimiento = obtenido / teorico * 100;
+    segunda = gas ? "VolTP_IDPROD_es" : "Masa_IDPROD2_es";
+    preguntas = pregunta('a', "Hallar_rendim_reac");
+    sol = NumCifras(rendimiento, 3) + "_ %";
+    if (gas || c.id != c.id2) {
+      preguntas += pregunta('b', "Hallar_Masa_IDPROD");
+      // What else formed, from what was obtained as the page gives it.
+      const double masa = obtenido / c.r.s[dado].coef * c.r.s[c.id].coef * c.r.s[c.id].masaMolar;
+      sol += (gas ? ",      " : ",     ") + std::string("&+Bb)&-B ") + N4(masa) + " g";
+    }
+    sol += ".&LF";
+  }
+  std::string st = g.MsgQUI(apertura) + " " + g.MsgQUI(segunda) + "&LF" + LineaMasas(g, c.r) + g.MsgQUI("DCH") +
+                   ":&LF" + preguntas;
+  Rellena(g, c, st);
+  g.GP_Statement = st;
+  g.GP_Solution = "&SP=10:&+Ba)&-B " + sol;
+}
+
+// Limiting reagent: two reactants in given amounts, one of them in excess.
+void Limitante(GenContext& g) {
+  int t = g.GP_SeqB % 4 + 1;
+  if (AzarSupera(g.rnd, 0.8)) t = static_cast<int>(AleatorioEn(g.rnd, 1, 4, 1, 1));
+  Cantidades c;
+  do c.r = DrawReaccionETQ(g);
+  while (c.r.nReactivos != 2 || (t == 2 && !(c.r.GasReactivo && !c.r.AcReactivo)) ||
+         (t >= 3 && !c.r.AcReactivo) || (t == 4 && !(c.r.s[0].fase == "ac" && c.r.s[1].fase == "ac")));
+  c.ecuacion = c.r.ajustada;
+  Condiciones(g, c, 0.6, 0.6);
+  for (double& m : c.molar) m = AleatorioEn(g.rnd, 3, 50, 5, 1) / 10;
+  DibujaDado(g, c, t == 2 ? 2 : 0);
+  Resto(c);
+  const int limitante = static_cast<int>(AleatorioEn(g.rnd, 1, 2, 1, 1)) - 1, exceso = 1 - limitante;
+  c.moles[exceso] *= AleatorioEn(g.rnd, 125, 200, 1, 1) / 100;
+  c.masa[exceso] = c.moles[exceso] * c.r.s[exceso].masaMolar;
+  c.volGas[exceso] = c.moles[exceso] * kR * (c.T + 273.15) / c.P;
+  c.volDis[exceso] = c.moles[exceso] / c.molar[exceso] * 1000;
+  do c.id = static_cast<int>(AleatorioEn(g.rnd, 3, 4, 1, 1)) - 1;
+  while (c.r.s[c.id].coef <= 0);
+  c.id2 = c.id;
+  // The amounts as the page shows them decide, and the products follow from
+  // the reactant that runs out.
+  std::array<double, 2> n{};
+  for (int k = 0; k < 2; ++k) {
+    const bool solucion = t == 4 || (t == 3 && k == 0);
+    n[k] = t == 2 && k == 0 ? c.P * Cifras4(c.volGas[0]) / kR / (c.T + 273.15)
+           : solucion       ? Cifras4(c.volDis[k]) / 1000 * c.molar[k]
+                            : Cifras4(c.masa[k]) / c.r.s[k].masaMolar;
+  }
+  const double avance = std::min(n[0] / std::fabs(c.r.s[0].coef), n[1] / std::fabs(c.r.s[1].coef));
+  const int L = n[0] / std::fabs(c.r.s[0].coef) <= n[1] / std::fabs(c.r.s[1].coef) ? 0 : 1;
+  const double masaProducto = avance * c.r.s[c.id].coef * c.r.s[c.id].masaMolar;
+
+  static constexpr std::string_view kApertura[4] = {"ETQ_ecu_Masa_NN2_Masa_NN1", "ETQ_ecu_Masa_NN2_VGasTP_NN1",
+                                                    "ETQ_ecu_Masa_NN2_VDis_NN1", "ETQ_ecu_VolDisNN2_VolDisNN1"};
+  std::string st = g.MsgQUI(kApertura[t - 1]) + "&LF" + LineaMasas(g, c.r) + g.MsgQUI("DCH") + ": &+Ba)&-B& " +
+                   g.MsgQUI("Hallar_ReacLimit") + ". &+Bb)&-B& " + g.MsgQUI("Hallar_Masa_IDPROD") + ".&LF";
+  Rellena(g, c, st);
+  g.GP_Statement = st;
+  g.GP_Solution = "&SP=10:&+Ba)&-B " + std::string(c.r.s[L].formula) + ", " + g.MsgQUI(c.r.s[L].nombre) +
+                  ",     &+Bb)&-B " + N4(masaProducto) + " g.&LF";
+}
+
 }  // namespace
 
 void Generador1(GenContext& g) { Reaccion(g, false); }
+void Generador2(GenContext& g) { Rendimiento(g); }
+void Generador3(GenContext& g) { Limitante(g); }
 void Generador6(GenContext& g) { Reaccion(g, true); }
 
 }  // namespace ss::mod::etq

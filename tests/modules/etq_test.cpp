@@ -8,6 +8,8 @@
 #include <map>
 #include <numeric>
 #include <set>
+#include <functional>
+#include <regex>
 
 #include "modules/ANEU_QUIM_ETQ/etq.h"
 #include "tests/modules/dis_comun.h"
@@ -153,107 +155,183 @@ TEST(Stoichiometry, IonicFormulasAndDoubleExchangesAreBalanced) {
         }
 }
 
-// Generators 1 and 6 read as a student reads them: the equation names the
-// reaction, the statement one amount of one substance; every answer follows
-// from the coefficients and molar masses of the test's own atomic masses.
+// A problem on one reaction read as a student reads it: the reaction by the
+// equation shown, the molar masses listed (which must agree with the atomic
+// masses), the conditions, and each amount the text gives with its substance.
+struct Leido {
+  std::string st, so;
+  ReaccionETQ r;
+  std::map<std::string, double> masas;
+  double T = NAN, P = NAN, pureza = 100, rendimiento = NAN;
+  struct Cantidad {
+    int k;          // the substance
+    double moles;   // what the amount is in moles
+    std::size_t at;    // where its name stands
+  };
+  std::vector<Cantidad> dadas;
+
+  std::string Nombre(int k) const { return test::Texto(r.s[k].nombre); }
+  double M(int k) const { return masas.at(std::string(r.s[k].formula)); }
+  double Gas(double V) const { return P * V / 0.082057 / T; }
+};
+
+Leido Lee(int gen, int v, uint64_t semilla) {
+  Leido l;
+  GenContext g(&test::Textos(), Aleatorio(semilla * 7919 + v));
+  GeneraProblema(g, "ANEU_QUIM_ETQ", ZeroPadCut(gen, 3) + "000" + ZeroPadCut(v, 4) + "000301", l.st, l.so);
+  const std::string& st = l.st;
+  EXPECT_FALSE(std::regex_search(st + l.so, std::regex("%[A-Za-z0-9_]+%|<Error|nan|inf"))) << "a whole problem: " << st;
+  for (int f = 1; f <= kReacciones && l.r.fila == 0; ++f) {
+    const ReaccionETQ r = Reaccion(f);
+    if (st.find(r.ajustada + ",") != std::string::npos || st.find(r.sinAjustar + ",") != std::string::npos ||
+        st.find(r.sinAjustar + "    " + test::Texto("Ecua_No_Ajustada")) != std::string::npos)
+      l.r = r;
+  }
+  EXPECT_NE(l.r.fila, 0) << st;
+  if (l.r.fila == 0) return l;
+  // A stripped equation says so, unless stripping changed nothing.
+  EXPECT_EQ(st.find(l.r.ajustada) != std::string::npos || l.r.ajustada == l.r.sinAjustar,
+            st.find(test::Texto("Ecua_No_Ajustada")) == std::string::npos) << st;
+  const std::string lista = Tras(st, test::Texto("Masas_molares") + ": ");
+  static const std::regex par(R"(([A-Za-z0-9_()]+) = (\d+(?:&\.\d+)?))");
+  for (std::sregex_iterator it(lista.begin(), lista.end(), par), end; it != end; ++it)
+    l.masas[(*it)[1]] = test::Numeros((*it)[2].str())[0];
+  for (const Sustancia& x : l.r.s)
+    if (x.coef != 0) EXPECT_NEAR(l.masas[std::string(x.formula)], MasaMolar(x.formula), 0.5) << x.formula;
+  const test::Datos d(st);
+  l.T = d.En("\xB0" "C") + 273.15, l.P = d.En("atm");
+  std::smatch m;
+  if (std::regex_search(st, m, std::regex(R"((\d+)_ % purity)"))) l.pureza = std::stod(m[1]);
+  if (std::regex_search(st, m, std::regex(R"(yield of the reaction is (\d+)_ %)"))) l.rendimiento = std::stod(m[1]);
+  // Each amount: a number, its unit and " of " before a substance's name; the
+  // longest names first, so that "hydrogen chloride" is not read as hydrogen.
+  std::string resto = st.substr(0, st.find("&LF"));
+  std::vector<int> orden;
+  for (int k = 0; k < 4; ++k)
+    if (l.r.s[k].coef != 0) orden.push_back(k);
+  std::sort(orden.begin(), orden.end(), [&](int a, int b) { return l.Nombre(a).size() > l.Nombre(b).size(); });
+  static const std::regex cantidad(R"((\d[\d_ ]*(?:&\.\d+)?)& (g|mol|L|mL) of (a (\d+(?:&\.\d+)?)& mol/L solution of )?$)");
+  for (int k : orden)
+    for (std::size_t at = resto.find(l.Nombre(k)); at != std::string::npos; at = resto.find(l.Nombre(k), at + 1)) {
+      const std::string antes = resto.substr(0, at);
+      if (!std::regex_search(antes, m, cantidad)) continue;
+      const double x = test::Numeros(m[1].str())[0];
+      const std::string u = m[2];
+      const double n = u == "g" ? x / l.M(k) : u == "mol" ? x : u == "L" ? l.Gas(x) : x / 1000 * test::Numeros(m[4].str())[0];
+      l.dadas.push_back({k, n, at});
+      resto.replace(at, l.Nombre(k).size(), std::string(l.Nombre(k).size(), '#'));
+    }
+  std::sort(l.dadas.begin(), l.dadas.end(), [](const auto& a, const auto& b) { return a.at < b.at; });
+  // Real conditions: a gas stays a gas, a water solution stays liquid.
+  if (!std::isnan(l.P)) {
+    EXPECT_TRUE(l.P >= 0.5 && l.P <= 5) << l.P;
+    EXPECT_TRUE(l.T >= 273.15 && l.T <= (l.r.AcReactivo ? 363.15 : 673.15)) << l.T;
+  }
+  return l;
+}
+
+// What a question asks of the moles `n` of each substance the reaction holds.
+double Pide(const Leido& l, const std::string& q, const std::function<double(int)>& n) {
+  for (int j = 0; j < 4; ++j) {
+    if (l.r.s[j].coef == 0) continue;
+    const std::string x = l.Nombre(j);
+    if (q == "the mass of " + x + " formed." || q == "the mass of " + x + " that is needed.") return n(j) * l.M(j);
+    if (q == "the mass of the impure " + x + " that is needed.") return n(j) * l.M(j) * 100 / l.pureza;
+    if (q == "the amount of " + x + " formed, in moles." || q == "the amount of " + x + " that is needed, in moles.")
+      return n(j);
+    if (q.starts_with("the volume of " + x + " formed, measured") || q.starts_with("the volume of " + x + " that is needed, measured"))
+      return n(j) * 0.082057 * l.T / l.P;
+    if (q == "the volume of the " + x + " solution that is needed.") {
+      std::smatch m;
+      EXPECT_TRUE(std::regex_search(l.st, m, std::regex(R"((\d+(?:&\.\d+)?)& mol/L solution of )" + std::regex_replace(x, std::regex(R"([()])"), R"(\$&)"))));
+      return n(j) / test::Numeros(m[1].str())[0] * 1000;
+    }
+  }
+  ADD_FAILURE() << "a question not understood: " << q;
+  return NAN;
+}
+
+// Four significant figures, also where the zeros of a whole number are not shown as such.
+void Responde(const Leido& l, const std::vector<double>& esperadas) {
+  const std::vector<test::Mostrado> dadas = test::Respuestas(l.so);
+  ASSERT_EQ(dadas.size(), esperadas.size()) << l.so;
+  for (std::size_t j = 0; j < dadas.size(); ++j) test::EsperaCerca(dadas[j], esperadas[j], 5.01e-4 * std::fabs(esperadas[j]));
+}
+
+// Generators 1 and 6: every amount from the one the statement gives.
 TEST(Stoichiometry, AmountsOfOneReactionFollowFromTheGivenOne) {
-  constexpr double R = 0.082057;
-  std::set<int> vistas;
+  std::set<int> filas;
   for (int gen : {1, 6})
     for (int v = 0; v < 12; ++v)
       for (uint64_t semilla = 1; semilla <= 25; ++semilla) {
-        GenContext g(&test::Textos(), Aleatorio(semilla * 7919 + v));
-        std::string st, so;
-        GeneraProblema(g, "ANEU_QUIM_ETQ", ZeroPadCut(gen, 3) + "000" + ZeroPadCut(v, 4) + "000301", st, so);
-        SCOPED_TRACE(st + "\n" + so);
-        ASSERT_FALSE(std::regex_search(st + so, std::regex("%[A-Za-z0-9_]+%|<Error|nan|inf"))) << "a whole problem";
-        // The reaction, by the equation shown.
-        int fila = 0;
-        for (int f = 1; f <= kReacciones && !fila; ++f) {
-          const ReaccionETQ r = Reaccion(f);
-          if (st.find(r.ajustada + ",") != std::string::npos || st.find(r.sinAjustar + ",") != std::string::npos ||
-              st.find(r.sinAjustar + "    " + test::Texto("Ecua_No_Ajustada")) != std::string::npos)
-            fila = f;
-        }
-        ASSERT_NE(fila, 0);
-        const ReaccionETQ r = Reaccion(fila);
-        const bool ajustada = st.find(r.ajustada) != std::string::npos;
-        EXPECT_EQ(ajustada || r.ajustada == r.sinAjustar, st.find(test::Texto("Ecua_No_Ajustada")) == std::string::npos);
-        auto nombre = [&](int k) { return test::Texto(r.s[k].nombre); };
-        // The molar masses the statement lists, which agree with the atomic masses.
-        std::map<std::string, double> masas;
-        const std::string lista = Tras(st, test::Texto("Masas_molares") + ": ");
-        static const std::regex par(R"(([A-Za-z0-9_()]+) = (\d+(?:&\.\d+)?))");
-        for (std::sregex_iterator it(lista.begin(), lista.end(), par), end; it != end; ++it)
-          masas[(*it)[1]] = test::Numeros((*it)[2].str())[0];
-        auto MasaMolar = [&](std::string_view f) {
-          EXPECT_NEAR(masas.at(std::string(f)), etq::MasaMolar(f), 0.5) << f;
-          return masas.at(std::string(f));
-        };
-        auto sustancia = [&](const std::string& antes, const std::string& despues) {
-          for (int k = 0; k < 4; ++k)
-            if (r.s[k].coef != 0 && st.find(antes + nombre(k) + despues) != std::string::npos) return k;
-          return -1;
-        };
-        const test::Datos d(st);
-        const double T = d.En("\xB0" "C") + 273.15, P = d.En("atm");
-        std::smatch m;
-        const double pureza = std::regex_search(st, m, std::regex(R"((\d+)_ %)")) ? std::stod(m[1]) : 100;
-        // The given amount, in moles of the substance it is of.
-        double n = NAN;
-        int k = -1;
-        if (st.find("are to be made") != std::string::npos) {
-          k = sustancia("g of ", " are to be made");
-          n = d.En("g") / MasaMolar(r.s[k].formula);
-        } else if ((k = sustancia("mL of a " + Tras(st, "mL of a ").substr(0, Tras(st, "mL of a ").find("solution of ") + 12), "")) >= 0) {
-          n = d.En("mL") / 1000 * d.En("mol/L");
-        } else if ((k = sustancia("g of ", "")) >= 0) {
-          n = d.En("g") * pureza / 100 / MasaMolar(r.s[k].formula);
-        } else if ((k = sustancia("mol of ", "")) >= 0) {
-          n = d.En("mol");
-        } else if ((k = sustancia("L of ", ", measured")) >= 0) {
-          n = P * d.En("L") / R / T;
-        }
-        ASSERT_GE(k, 0);
-        vistas.insert(gen * 100 + fila);
-        auto moles = [&](int j) { return n / std::fabs(r.s[k].coef) * std::fabs(r.s[j].coef); };
-        // The questions, in order, and what each asks.
-        std::vector<double> esperadas;
-        for (const char* letra : {"a)&-B ", "b)&-B "}) {
-          const std::string q = test::Tras(st, letra);
-          for (int j = 0; j < 4; ++j) {
-            if (r.s[j].coef == 0) continue;
-            const std::string x = nombre(j);
-            const double M = MasaMolar(r.s[j].formula);
-            const std::string solucion = "solution of " + x;
-            if (q == "the mass of " + x + " formed." || q == "the mass of " + x + " that is needed.")
-              esperadas.push_back(moles(j) * M);
-            else if (q == "the mass of the impure " + x + " that is needed.")
-              esperadas.push_back(moles(j) * M * 100 / pureza);
-            else if (q == "the amount of " + x + " formed, in moles." || q == "the amount of " + x + " that is needed, in moles.")
-              esperadas.push_back(moles(j));
-            else if (q.starts_with("the volume of " + x + " formed, measured") || q.starts_with("the volume of " + x + " that is needed, measured"))
-              esperadas.push_back(moles(j) * R * T / P);
-            else if (q == "the volume of the " + x + " solution that is needed.") {
-              const std::size_t at = st.find(" mol/L " + solucion);
-              ASSERT_NE(at, std::string::npos) << "the molarity of " << x << " is given";
-              esperadas.push_back(moles(j) / test::Numeros(st.substr(st.rfind(" a ", at), at - st.rfind(" a ", at))).back() * 1000);
-            }
-          }
-        }
-        const std::vector<test::Mostrado> dadas = test::Respuestas(so);
-        ASSERT_EQ(esperadas.size(), 2u);
-        ASSERT_EQ(dadas.size(), 2u);
-        // Four significant figures, also where the zeros of a whole number are not shown as such.
-        for (int j = 0; j < 2; ++j) test::EsperaCerca(dadas[j], esperadas[j], 5.01e-4 * std::fabs(esperadas[j]));
-        // Real conditions: a gas stays a gas, water stays liquid for a solution.
-        if (d.Tiene("atm")) {
-          EXPECT_TRUE(P >= 0.5 && P <= 5) << P;
-          EXPECT_TRUE(T >= 273.15 && T <= (r.AcReactivo ? 363.15 : 673.15)) << T;
-        }
-        if (gen == 6) EXPECT_TRUE(d.Tiene("g") || d.Tiene("mol"));
+        const Leido l = Lee(gen, v, semilla);
+        SCOPED_TRACE(l.st + "\n" + l.so);
+        ASSERT_EQ(l.dadas.size(), 1u);
+        const Leido::Cantidad& d = l.dadas[0];
+        const double n = d.moles * (l.st.find("a sample of") != std::string::npos ? l.pureza / 100 : 1);
+        filas.insert(gen * 100 + l.r.fila);
+        auto moles = [&](int j) { return n / std::fabs(l.r.s[d.k].coef) * std::fabs(l.r.s[j].coef); };
+        Responde(l, {Pide(l, Tras(l.st, "a)&-B "), moles), Pide(l, Tras(l.st, "b)&-B "), moles)});
+        if (gen == 6) EXPECT_TRUE(l.st.find("& g of") != std::string::npos || l.st.find("& mol of") != std::string::npos);
       }
-  EXPECT_GE(vistas.size(), 25u) << "most reactions of the table come up";
+  EXPECT_GE(filas.size(), 25u) << "most reactions of the table come up";
+}
+
+// Generator 2: the products as the yield gives them, or the yield from what was obtained.
+TEST(Stoichiometry, YieldScalesTheProductsAndIsFoundFromWhatWasObtained) {
+  int ambos = 0;
+  for (int v = 0; v < 8; ++v)
+    for (uint64_t semilla = 1; semilla <= 40; ++semilla) {
+      const Leido l = Lee(2, v, semilla);
+      SCOPED_TRACE(l.st + "\n" + l.so);
+      ASSERT_FALSE(l.dadas.empty());
+      const Leido::Cantidad& d = l.dadas[0];
+      ASSERT_EQ(d.k, 0);
+      const double n1 = d.moles * (l.st.find("a sample of") != std::string::npos ? l.pureza / 100 : 1);
+      auto teorico = [&](int j) { return n1 / std::fabs(l.r.s[0].coef) * std::fabs(l.r.s[j].coef); };
+      double y = l.rendimiento;
+      std::vector<double> esperadas;
+      if (std::isnan(y)) {
+        ASSERT_EQ(l.dadas.size(), 2u);
+        const Leido::Cantidad& obtenido = l.dadas[1];
+        y = obtenido.moles / teorico(obtenido.k) * 100;
+        esperadas.push_back(y);
+        ++ambos;
+      } else {
+        EXPECT_TRUE(y >= 30 && y <= 85) << y;
+      }
+      auto real = [&](int j) { return teorico(j) * (l.r.s[j].coef > 0 ? y / 100 : 1); };
+      for (const char* letra : {"a)&-B ", "b)&-B "})
+        if (const std::string q = Tras(l.st, letra); !q.empty() && q != "the yield of the reaction.")
+          esperadas.push_back(Pide(l, q, real));
+      const std::vector<test::Mostrado> dadas = test::Respuestas(l.so);
+      ASSERT_EQ(dadas.size(), esperadas.size());
+      if (std::isnan(l.rendimiento)) EXPECT_NEAR(dadas[0].valor, esperadas[0], 0.5) << "the yield, to the whole percent";
+      for (std::size_t j = std::isnan(l.rendimiento) ? 1 : 0; j < dadas.size(); ++j)
+        test::EsperaCerca(dadas[j], esperadas[j], 5.01e-4 * std::fabs(esperadas[j]));
+    }
+  EXPECT_GT(ambos, 20);
+}
+
+// Generator 3: the reactant that runs out first, by the amounts given.
+TEST(Stoichiometry, TheLimitingReagentRunsOutFirstAndSetsTheProduct) {
+  for (int v = 0; v < 4; ++v)
+    for (uint64_t semilla = 1; semilla <= 40; ++semilla) {
+      const Leido l = Lee(3, v, semilla);
+      SCOPED_TRACE(l.st + "\n" + l.so);
+      ASSERT_EQ(l.dadas.size(), 2u);
+      ASSERT_EQ(l.r.nReactivos, 2);
+      std::array<double, 2> avance{};
+      for (const Leido::Cantidad& d : l.dadas) avance[d.k] = d.moles / std::fabs(l.r.s[d.k].coef);
+      const int L = avance[0] < avance[1] ? 0 : 1;
+      EXPECT_GT(std::max(avance[0], avance[1]) / std::min(avance[0], avance[1]), 1.2) << "one reactant clearly in excess";
+      EXPECT_TRUE(l.so.starts_with("&SP=10:&+Ba)&-B " + std::string(l.r.s[L].formula) + ", " + l.Nombre(L) + ","));
+      const double e = std::min(avance[0], avance[1]);
+      const std::vector<test::Mostrado> dadas = test::Respuestas(l.so.substr(l.so.find("b)")));
+      ASSERT_EQ(dadas.size(), 1u);
+      test::EsperaCerca(dadas[0], Pide(l, Tras(l.st, "b)&-B& "), [&](int j) { return e * std::fabs(l.r.s[j].coef); }),
+                        5.01e-4 * dadas[0].valor);
+    }
 }
 
 TEST(Stoichiometry, ListsOfEquationsToBalance) {
@@ -276,6 +354,19 @@ TEST(Stoichiometry, ListsOfEquationsToBalance) {
       EXPECT_NE(st.find("&SP=10:&+B" + std::string(1, static_cast<char>('a' + lineas - 1)) + ")"), std::string::npos);
     }
   }
+}
+
+// Every generator written so far, every variant, 200 seeds: whole problems only.
+TEST(Stoichiometry, EveryVariantMakesWholeProblems) {
+  for (int gen : {1, 2, 3, 5, 6})
+    for (int v = 0; v < 12; ++v)
+      for (uint64_t semilla = 1; semilla <= 200; ++semilla) {
+        GenContext g(&test::Textos(), Aleatorio(semilla));
+        std::string st, so;
+        GeneraProblema(g, "ANEU_QUIM_ETQ", ZeroPadCut(gen, 3) + "000" + ZeroPadCut(v, 4) + "080301", st, so);
+        ASSERT_TRUE(st.size() > 40 && so.size() > 10 && st.ends_with("&LF") && so.ends_with("&LF")) << st << so;
+        ASSERT_FALSE(std::regex_search(st + so, std::regex("%[A-Za-z0-9_]+%|<Error|nan|inf|-\\d"))) << st << so;
+      }
 }
 
 }  // namespace
