@@ -36,10 +36,10 @@ void BM_HiddenPage(benchmark::State& state) {
 }
 BENCHMARK(BM_HiddenPage)->Unit(benchmark::kMicrosecond);
 
-void BM_DrawnPage(benchmark::State& state) {
-  const std::string texto = PaginaDeProblemas(6);
+// The page of `texto` drawn into an image at zoom 1, as the screen draws it,
+// once per iteration.
+void DibujaPaginas(benchmark::State& state, const std::string& texto, ss::Motor motor) {
   QImage image(796, 1125, QImage::Format_RGB32);
-  ss::Motor motor;
   for (auto _ : state) {
     image.fill(Qt::white);
     QPainter painter(&image);
@@ -47,6 +47,11 @@ void BM_DrawnPage(benchmark::State& state) {
     ss::CanvasQt canvas(&painter, ss::TipoCanvas::Pantalla);
     motor.ComponerTexto(texto, 12, canvas);
   }
+}
+
+void BM_DrawnPage(benchmark::State& state) {
+  const std::string texto = PaginaDeProblemas(6);
+  DibujaPaginas(state, texto, ss::Motor());
 }
 BENCHMARK(BM_DrawnPage)->Unit(benchmark::kMillisecond);
 
@@ -64,16 +69,9 @@ void BM_DrawnPageOfDrawings(benchmark::State& state) {
              "#A23(0.50 - x#A23)#A33(0.50 - x#A33)#A53(2x#A53)#CEQ)&LF";
     texto += "#IMG('Q_LW_H2O.gif'DXmm=22:DYmm=22:#IMG) #IMG('Q_LW_NH3.gif'DXmm=22:DYmm=22:#IMG)&LF";
   }
-  QImage image(796, 1125, QImage::Format_RGB32);
   ss::Motor motor;
   motor.BuscaImagen = [](const std::string& nombre) { return std::string(SS_SOURCE_DIR "/img/") + nombre; };
-  for (auto _ : state) {
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.scale(1.0 / 15, 1.0 / 15);
-    ss::CanvasQt canvas(&painter, ss::TipoCanvas::Pantalla);
-    motor.ComponerTexto(texto, 12, canvas);
-  }
+  DibujaPaginas(state, texto, std::move(motor));
 }
 BENCHMARK(BM_DrawnPageOfDrawings)->Unit(benchmark::kMillisecond);
 
