@@ -59,6 +59,14 @@ bool SoloNuevas(int numero) {
   return numero == 1 || numero == 3 || numero == 4 || numero == 5 || numero == 6 || numero == 17;
 }
 
+// A frame's widget and its column of controls, flush with the frame.
+std::pair<QWidget*, QVBoxLayout*> Columna() {
+  auto* w = new QWidget;
+  auto* v = new QVBoxLayout(w);
+  v->setContentsMargins(0, 0, 0, 0);
+  return {w, v};
+}
+
 QRadioButton* Opcion(const QString& texto, const char* nombre, QWidget* parent) {
   auto* r = new QRadioButton(texto, parent);
   r->setObjectName(QLatin1String(nombre));
@@ -160,9 +168,7 @@ QWidget* FrmSetup::Marco(int numero) {
   TextosVentana& t = e_.textos;
   switch (numero) {
     case 1: {
-      auto* w = new QWidget;
-      auto* v = new QVBoxLayout(w);
-      v->setContentsMargins(0, 0, 0, 0);
+      auto [w, v] = Columna();
       if (e_.modoAplicacion && !e_.sistemas.empty()) {
         cmbSysedu_ = new QComboBox(w);
         cmbSysedu_->setObjectName(QStringLiteral("CmbSYSEDU"));
@@ -219,9 +225,7 @@ QWidget* FrmSetup::Marco(int numero) {
 }
 
 QWidget* FrmSetup::MarcoSeparadores() {
-  auto* w = new QWidget;
-  auto* v = new QVBoxLayout(w);
-  v->setContentsMargins(0, 0, 0, 0);
+  auto [w, v] = Columna();
   v->addWidget(new QLabel(TextoW(e_.textos, "Dec_Mark_List_Sep"), w));
   static const char* kNombre[3] = {"OptCOMPYC", "OptDOTPYC", "OptDOTCOM"};
   static const char* kClave[3] = {"Comma_Semicolon", "Dot_Semicolon", "Dot_Comma"};
@@ -274,9 +278,7 @@ QWidget* FrmSetup::MarcoSignos() {
 }
 
 QWidget* FrmSetup::MarcoCientifica() {
-  auto* w = new QWidget;
-  auto* v = new QVBoxLayout(w);
-  v->setContentsMargins(0, 0, 0, 0);
+  auto [w, v] = Columna();
   sciAspa_ = Opcion(TextoW(e_.textos, "SciNot_Cross", true), "OptSCINOTASPA", w);
   sciPunto_ = Opcion(TextoW(e_.textos, "SciNot_Dot", true), "OptSCINOTPTO", w);
   v->addWidget(sciAspa_);
@@ -286,9 +288,7 @@ QWidget* FrmSetup::MarcoCientifica() {
 }
 
 QWidget* FrmSetup::MarcoIntervalos() {
-  auto* w = new QWidget;
-  auto* v = new QVBoxLayout(w);
-  v->setContentsMargins(0, 0, 0, 0);
+  auto [w, v] = Columna();
   intervaloPar_ = Opcion(TextoW(e_.textos, "Parent_Brackets", true), "OptCOPA", w);
   intervaloInv_ = Opcion(TextoW(e_.textos, "InvBrackets", true), "OptCOCI", w);
   v->addWidget(intervaloPar_);
@@ -326,9 +326,7 @@ QWidget* FrmSetup::MarcoEstadistica() {
 }
 
 QWidget* FrmSetup::MarcoMoneda() {
-  auto* w = new QWidget;
-  auto* v = new QVBoxLayout(w);
-  v->setContentsMargins(0, 0, 0, 0);
+  auto [w, v] = Columna();
   moneda_[0] = Opcion(TextoW(e_.textos, "EUR_Euro_Euros", true), "OptEUR", w);
   moneda_[1] = Opcion(TextoW(e_.textos, "USD_Dollar_Dollars", true), "OptUSD", w);
   moneda_[2] = Opcion(TextoW(e_.textos, "CurrencyOther", true), "OptOTRAMON", w);
@@ -384,9 +382,7 @@ QWidget* FrmSetup::MarcoOptica(bool lente) {
 }
 
 QWidget* FrmSetup::MarcoAsistente() {
-  auto* w = new QWidget;
-  auto* v = new QVBoxLayout(w);
-  v->setContentsMargins(0, 0, 0, 0);
+  auto [w, v] = Columna();
   check3_ = new QCheckBox(TextoW(e_.textos, "ShowWelcomePanel", true), w);
   check3_->setObjectName(QStringLiteral("Check3"));
   check2_ = new QCheckBox(TextoW(e_.textos, "ShowAdvancesOptions", true), w);
@@ -398,9 +394,7 @@ QWidget* FrmSetup::MarcoAsistente() {
 }
 
 QWidget* FrmSetup::MarcoCasilla(const char* nombre, const char* clave, bool marcada) {
-  auto* w = new QWidget;
-  auto* v = new QVBoxLayout(w);
-  v->setContentsMargins(0, 0, 0, 0);
+  auto [w, v] = Columna();
   auto* c = new QCheckBox(TextoW(e_.textos, clave, true), w);
   c->setObjectName(QLatin1String(nombre));
   c->setChecked(marcada);

@@ -27,6 +27,14 @@ constexpr double kPi = std::numbers::pi;
 
 double Distancia(double x1, double y1, double x2, double y2) { return std::hypot(x2 - x1, y2 - y1); }
 
+// A stroke from (x1, y1) to (x2, y2), seen from the point (dx, dy).
+void EsRaya(const Raya& r, double dx, double dy, std::array<double, 4> e) {
+  EXPECT_NEAR(r.x1 - dx, e[0], 1e-6);
+  EXPECT_NEAR(r.y1 - dy, e[1], 1e-6);
+  EXPECT_NEAR(r.x2 - dx, e[2], 1e-6);
+  EXPECT_NEAR(r.y2 - dy, e[3], 1e-6);
+}
+
 // A ring's vertex k as the ring's own numbers put it: start angle plus k steps.
 struct Vertice {
   double x, y;
@@ -66,12 +74,8 @@ TEST(Ring, VerticesBoxAndSidesForEverySizeAndOrientation) {
     // The sides, vertex to vertex round the ring, closing on the first.
     ASSERT_GE(l.c.rayas.size(), static_cast<std::size_t>(c.n));
     for (int k = 0; k < c.n; ++k) {
-      const Raya& r = l.c.rayas[k];
       const Vertice a = VerticeDe(c.rx * kR, c.n, c.inicio, k), z = VerticeDe(c.rx * kR, c.n, c.inicio, k + 1);
-      EXPECT_NEAR(r.x1, a.x, 1e-6);
-      EXPECT_NEAR(r.y1, a.y, 1e-6);
-      EXPECT_NEAR(r.x2, z.x, 1e-6);
-      EXPECT_NEAR(r.y2, z.y, 1e-6);
+      EsRaya(l.c.rayas[k], 0, 0, {a.x, a.y, z.x, z.y});
     }
   }
 }
@@ -143,13 +147,7 @@ TEST(Ring, BondsByTheDirectionOfTheirVertexAndLabelsAtTheirEnds) {
     // The centre from the first vertex, whose place the test above pins.
     const Vertice v = VerticeDe(l.c.rayas.at(0).x1 - kR * std::sin(c.inicio), c.n, c.inicio, c.k);
     ASSERT_EQ(l.c.rayas.size(), c.n + c.trazos.size());
-    for (std::size_t j = 0; j < c.trazos.size(); ++j) {
-      const Raya& r = l.c.rayas[c.n + j];
-      EXPECT_NEAR(r.x1 - v.x, c.trazos[j][0], 1e-6);
-      EXPECT_NEAR(r.y1 - v.y, c.trazos[j][1], 1e-6);
-      EXPECT_NEAR(r.x2 - v.x, c.trazos[j][2], 1e-6);
-      EXPECT_NEAR(r.y2 - v.y, c.trazos[j][3], 1e-6);
-    }
+    for (std::size_t j = 0; j < c.trazos.size(); ++j) EsRaya(l.c.rayas[c.n + j], v.x, v.y, c.trazos[j]);
     EXPECT_EQ(l.c.Texto(), c.rotulo);
     if (*c.rotulo) {
       EXPECT_NEAR(l.c.trazos[0].x - 1 - v.x, c.rx, 1e-6);  // one twip of spacing before a letter
@@ -352,10 +350,7 @@ TEST_F(Pictures, SizedFromMillimetresKeepingTheirShapeUnlessDistorted) {
     const test::Imagen& i = l.c.imagenes[0];
     EXPECT_EQ(QString::fromStdString(i.ruta),
               c.fichero.startsWith('/') ? programa.path() + c.fichero : temporal.path() + "/" + c.fichero);
-    EXPECT_NEAR(i.x, c.x, 1e-6);
-    EXPECT_NEAR(i.y, c.y, 1e-6);
-    EXPECT_NEAR(i.ancho, c.w, 1e-6);
-    EXPECT_NEAR(i.alto, c.h, 1e-6);
+    EsRaya({i.x, i.y, i.x + i.ancho, i.y + i.alto}, 0, 0, {c.x, c.y, c.x + c.w, c.y + c.h});
     EXPECT_TRUE(l.c.rayas.empty()) << "no frame unless asked";
   }
   // A frame widens the box by its thickness.
