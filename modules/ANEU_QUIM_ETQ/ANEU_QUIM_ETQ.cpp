@@ -19,9 +19,9 @@ constexpr Entrada kEntradas[6] = {
     {"3", "780", kEstequiometria, "015", ""},     // 6 given mass or moles only
 };
 
-// Generators 1..6, in the order of their numbers. An empty slot is a
-// generator not written yet: its problems come out as the fallback notice.
-constexpr Generador kGeneradores[6] = {etq::Generador1, etq::Generador2, etq::Generador3, nullptr, etq::Generador5, etq::Generador6};
+// Generators 1..6, in the order of their numbers.
+constexpr Generador kGeneradores[6] = {etq::Generador1, etq::Generador2, etq::Generador3,
+                                       etq::Generador4, etq::Generador5, etq::Generador6};
 
 }  // namespace
 

@@ -7,6 +7,8 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "problems/generic.h"
 
@@ -59,6 +61,11 @@ struct Ion {
 const Ion& CationDeSorteo(int sorteo);  // 1..20
 const Ion& AnionDeSorteo(int sorteo);   // 1..55
 
+// How the compound of two ions of the tables behaves in water: a letter of
+// the table beside the ions ('S' dissolves, 'P' and 'Q' insoluble, 'X' does
+// not exist in water, 'A' a strong acid, 'W' water...).
+char EnAgua(const Ion& cation, const Ion& anion);
+
 // The formula of the compound of two ions, and its molar mass.
 struct Compuesto {
   std::string formula;
@@ -73,10 +80,14 @@ struct DobleCambio {
 };
 DobleCambio AjustaDobleCambio(const Ion& c1, const Ion& a1, const Ion& c2, const Ion& a2);
 
+// "Molar masses: H_2O = 18,  O_2 = 32 (g/mol)": what a statement lists.
+std::string LineaMasas(GenContext& g, const std::vector<std::pair<std::string, double>>& masas);
+
 // Generators, by number.
 void Generador1(GenContext& g);  // amounts of one reaction from one given amount
 void Generador2(GenContext& g);  // reaction yield
 void Generador3(GenContext& g);  // limiting reagent
+void Generador4(GenContext& g);  // double exchange between two ionic compounds
 void Generador5(GenContext& g);  // a list of equations to balance
 void Generador6(GenContext& g);  // the same from a mass or moles only
 

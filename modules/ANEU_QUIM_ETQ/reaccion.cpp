@@ -136,11 +136,11 @@ void Rellena(GenContext& g, const Cantidades& c, std::string& t) {
 }
 
 // The molar masses the answers use, so that the page holds every datum.
-std::string LineaMasas(GenContext& g, const ReaccionETQ& r) {
-  std::string masas;
+std::string MasasDe(GenContext& g, const ReaccionETQ& r) {
+  std::vector<std::pair<std::string, double>> masas;
   for (const Sustancia& x : r.s)
-    if (x.coef != 0) masas += (masas.empty() ? "" : ",  ") + std::string(x.formula) + " = " + NumTexto(x.masaMolar);
-  return g.MsgQUI("Masas_molares") + ": " + masas + " (g/mol)&LF";
+    if (x.coef != 0) masas.emplace_back(x.formula, x.masaMolar);
+  return LineaMasas(g, masas);
 }
 
 // The amount of substance 1 drawn: a mass (dado 0, of purity c.pureza),
@@ -211,7 +211,7 @@ void Reaccion(GenContext& g, bool soloSimple) {
     ra = N4(respuesta[dado]) + std::string(kUnidad[dado]);
     rb = N4(c.moles[c.id]) + " mol.&LF";
   }
-  std::string st = g.MsgQUI(apertura) + "&LF" + LineaMasas(g, c.r) + g.MsgQUI("DCH") + ":&LF&SP=5:&+Ba)&-B " + g.MsgQUI(qa) +
+  std::string st = g.MsgQUI(apertura) + "&LF" + MasasDe(g, c.r) + g.MsgQUI("DCH") + ":&LF&SP=5:&+Ba)&-B " + g.MsgQUI(qa) +
                    ".&LF&SP=5:&+Bb)&-B " + g.MsgQUI(qb) + ".&LF";
   Rellena(g, c, st);
   g.GP_Statement = st;
@@ -275,7 +275,7 @@ void Rendimiento(GenContext& g) {
     }
     sol += ".&LF";
   }
-  std::string st = g.MsgQUI(apertura) + " " + g.MsgQUI(segunda) + "&LF" + LineaMasas(g, c.r) + g.MsgQUI("DCH") +
+  std::string st = g.MsgQUI(apertura) + " " + g.MsgQUI(segunda) + "&LF" + MasasDe(g, c.r) + g.MsgQUI("DCH") +
                    ":&LF" + preguntas;
   Rellena(g, c, st);
   g.GP_Statement = st;
@@ -318,7 +318,7 @@ void Limitante(GenContext& g) {
 
   static constexpr std::string_view kApertura[4] = {"ETQ_ecu_Masa_NN2_Masa_NN1", "ETQ_ecu_Masa_NN2_VGasTP_NN1",
                                                     "ETQ_ecu_Masa_NN2_VDis_NN1", "ETQ_ecu_VolDisNN2_VolDisNN1"};
-  std::string st = g.MsgQUI(kApertura[t - 1]) + "&LF" + LineaMasas(g, c.r) + g.MsgQUI("DCH") + ": &+Ba)&-B& " +
+  std::string st = g.MsgQUI(kApertura[t - 1]) + "&LF" + MasasDe(g, c.r) + g.MsgQUI("DCH") + ": &+Ba)&-B& " +
                    g.MsgQUI("Hallar_ReacLimit") + ". &+Bb)&-B& " + g.MsgQUI("Hallar_Masa_IDPROD") + ".&LF";
   Rellena(g, c, st);
   g.GP_Statement = st;
@@ -327,6 +327,12 @@ void Limitante(GenContext& g) {
 }
 
 }  // namespace
+
+std::string LineaMasas(GenContext& g, const std::vector<std::pair<std::string, double>>& masas) {
+  std::string t;
+  for (const auto& [formula, masa] : masas) t += (t.empty() ? "" : ",  ") + formula + " = " + NumTexto(masa);
+  return g.MsgQUI("Masas_molares") + ": " + t + " (g/mol)&LF";
+}
 
 void Generador1(GenContext& g) { Reaccion(g, false); }
 void Generador2(GenContext& g) { Rendimiento(g); }

@@ -158,7 +158,7 @@ void Sustituye(std::string& s, std::string_view de, std::string_view por) {
 // one charge takes in its name.
 constexpr Ion kCationes[16] = {
     {"Na", 1, 23, "N_Na", ""},      {"Zn", 2, 65.4, "N_Zn", ""},     {"Al", 3, 27, "N_Al", ""},
-    {"Pb", 4, 207.2, "N_Pb", "(IV)"}, {"Li", 1, 6.9, "N_Li", ""},     {"Ca", 2, 40.1, "N_Ca", ""},
+    {"Pb", 2, 207.2, "N_Pb", "(II)"}, {"Li", 1, 6.9, "N_Li", ""},     {"Ca", 2, 40.1, "N_Ca", ""},
     {"Fe", 2, 55.8, "N_Fe", "(II)"},  {"Fe", 3, 55.8, "N_Fe", "(III)"}, {"Cu", 1, 63.5, "N_Cu", "(I)"},
     {"Cu", 2, 63.5, "N_Cu", "(II)"},  {"Cd", 2, 112.4, "N_Cd", ""},   {"Ag", 1, 107.9, "N_Ag", ""},
     {"Cr", 3, 52, "N_Cr", "(III)"},   {"K", 1, 39.1, "N_K", ""},      {"Mg", 2, 24.3, "N_Mg", ""},
@@ -179,6 +179,40 @@ constexpr AnionSorteo kAniones[16] = {
     {39, {"O", 2, 16, "N_O-2", "N_H2O"}},           {47, {"ClO", 1, 51.5, "N_ClO-", "N_HClO"}},
     {48, {"ClO_2", 1, 67.5, "N_ClO2-", "N_HClO2"}}, {49, {"ClO_3", 1, 83.5, "N_ClO3-", "N_HClO3"}},
     {50, {"ClO_4", 1, 99.5, "N_ClO4-", "N_HClO4"}}, {51, {"CO_3", 2, 60, "N_CO3-2", "N_H2CO3"}},
+};
+
+// How the compound of each cation (rows, in the order of kCationes) with each
+// anion (columns, in the order of kAniones: F Cl Br I SO4 NO3 P2O7 PO4 S OH O
+// ClO ClO2 ClO3 ClO4 CO3) behaves in water at room temperature:
+//   S  dissolves;  L  dissolves only slightly (CaSO4, Ca(OH)2, PbCl2, KClO4);
+//   P  insoluble, but a strong acid dissolves it (hydroxides, carbonates,
+//      phosphates, FeS, ZnS);
+//   Q  insoluble even in a dilute strong acid (AgCl, PbSO4, CuS, PbI2);
+//   O  an oxide: a solid that only an acid takes up;
+//   A  a strong acid;  a  a weak acid;  G  an acid that leaves as a gas (H2S,
+//      H2CO3 giving CO2);  W  water;
+//   X  does not exist in water: it is unknown (CuI2, FeI3, AgOH, Al2(CO3)3),
+//      hydrolyses (Al2S3, MgS), or its ions oxidise each other (Fe(ClO)2);
+//      a few rare or doubtful ones are left out as well.
+// Lead takes charge 2: lead(IV) salts other than the oxide do not exist in water.
+constexpr std::string_view kEnAgua[16] = {
+    //F Cl Br I SO4 NO3 P2O7 PO4 S OH O ClO ClO2 ClO3 ClO4 CO3
+    "SSSSSSSSSSOSSSSS",  // Na
+    "XSSSSSPPPPOXXSSP",  // Zn
+    "XSSXSSPPXPXXXXSX",  // Al
+    "PLLQQSPPQPOXXSSP",  // Pb(II)
+    "LSSSSSXPSSOSXSSL",  // Li
+    "PSSSLSPPXLOSXSSP",  // Ca
+    "XSSSSSPPPPOXXXSP",  // Fe(II)
+    "XSSXSSPPXPOXXXSX",  // Fe(III)
+    "XQQQXXXXQXOXXXXX",  // Cu(I)
+    "XSSXSSPPQPOXXSSX",  // Cu(II)
+    "XSSSSSPPQPOXXSSP",  // Cd
+    "SQQQLSPPQXOXXSSP",  // Ag
+    "XSXXSSXPXPXXXXSX",  // Cr(III)
+    "SSSSSSSSSSOSSSLS",  // K
+    "PSSSSSPPXPOXXSSP",  // Mg
+    "aAAAAAaaGWWaaAAG",  // H
 };
 
 // A part of a formula: in parentheses when it is taken more than once and is
@@ -247,6 +281,13 @@ const Ion& AnionDeSorteo(int sorteo) {
   for (const AnionSorteo& x : kAniones)
     if (sorteo >= x.desde) a = &x;
   return a->ion;
+}
+
+char EnAgua(const Ion& cation, const Ion& anion) {
+  const auto c = &cation - kCationes;
+  std::ptrdiff_t a = 0;
+  while (a < 15 && &kAniones[a].ion != &anion) ++a;
+  return kEnAgua[c][static_cast<std::size_t>(a)];
 }
 
 Compuesto FormulaIonica(const Ion& cation, const Ion& anion) {

@@ -92,7 +92,9 @@ void Ajustada(const std::string& ajustada, const std::string& sinAjustar) {
 double MasaMolar(std::string_view f) {
   static const std::map<std::string, double> kMasas = {
       {"H", 1.008},  {"C", 12.011}, {"N", 14.007}, {"O", 15.999}, {"Na", 22.990}, {"Al", 26.982},
-      {"P", 30.974}, {"S", 32.06},  {"Cl", 35.45}, {"K", 39.098}, {"Ca", 40.078}, {"Zn", 65.38}, {"Li", 6.94}};
+      {"P", 30.974}, {"S", 32.06},  {"Cl", 35.45}, {"K", 39.098}, {"Ca", 40.078}, {"Zn", 65.38}, {"Li", 6.94},
+      {"F", 18.998}, {"Mg", 24.305}, {"Cr", 51.996}, {"Fe", 55.845}, {"Cu", 63.546}, {"Br", 79.904}, {"Ag", 107.87},
+      {"Cd", 112.41}, {"I", 126.90}, {"Pb", 207.2}};
   double m = 0;
   for (const auto& [e, n] : Cuenta(f)) m += n * kMasas.at(e);
   return m;
@@ -141,7 +143,7 @@ TEST(Stoichiometry, IonicFormulasAndDoubleExchangesAreBalanced) {
   EXPECT_EQ(FormulaIonica(sodio, AnionDeSorteo(11)).formula, "Na_2SO_4");
   EXPECT_EQ(FormulaIonica(aluminio, AnionDeSorteo(39)).formula, "Al_2O_3");
   EXPECT_EQ(FormulaIonica(CationDeSorteo(16), AnionDeSorteo(31)).formula, "H_2O");
-  EXPECT_EQ(FormulaIonica(CationDeSorteo(4), AnionDeSorteo(23)).formula, "PbP_2O_7");
+  EXPECT_EQ(FormulaIonica(CationDeSorteo(4), AnionDeSorteo(23)).formula, "Pb_2P_2O_7");
   EXPECT_NEAR(FormulaIonica(aluminio, AnionDeSorteo(11)).masaMolar, 342, 1e-9);
   for (int c1 = 1; c1 <= 16; ++c1)
     for (int c2 = 1; c2 <= 16; ++c2)
@@ -153,6 +155,16 @@ TEST(Stoichiometry, IonicFormulasAndDoubleExchangesAreBalanced) {
           ASSERT_EQ(Lado(d.ecuacion.substr(0, f)), Lado(d.ecuacion.substr(f + 4))) << d.ecuacion;
           EXPECT_EQ(std::gcd(std::gcd(d.coef[0], d.coef[1]), std::gcd(d.coef[2], d.coef[3])), 1) << d.ecuacion;
         }
+}
+
+// The molar masses a statement lists: "Molar masses: H_2O = 18,  O_2 = 32 (g/mol)".
+std::map<std::string, double> Masas(const std::string& st) {
+  std::map<std::string, double> m;
+  const std::string lista = Tras(st, test::Texto("Masas_molares") + ": ");
+  static const std::regex par(R"(([A-Za-z0-9_()]+) = (\d+(?:&\.\d+)?))");
+  for (std::sregex_iterator it(lista.begin(), lista.end(), par), end; it != end; ++it)
+    m[(*it)[1]] = test::Numeros((*it)[2].str())[0];
+  return m;
 }
 
 // A problem on one reaction read as a student reads it: the reaction by the
@@ -192,12 +204,11 @@ Leido Lee(int gen, int v, uint64_t semilla) {
   // A stripped equation says so, unless stripping changed nothing.
   EXPECT_EQ(st.find(l.r.ajustada) != std::string::npos || l.r.ajustada == l.r.sinAjustar,
             st.find(test::Texto("Ecua_No_Ajustada")) == std::string::npos) << st;
-  const std::string lista = Tras(st, test::Texto("Masas_molares") + ": ");
-  static const std::regex par(R"(([A-Za-z0-9_()]+) = (\d+(?:&\.\d+)?))");
-  for (std::sregex_iterator it(lista.begin(), lista.end(), par), end; it != end; ++it)
-    l.masas[(*it)[1]] = test::Numeros((*it)[2].str())[0];
+  l.masas = Masas(st);
   for (const Sustancia& x : l.r.s)
-    if (x.coef != 0) EXPECT_NEAR(l.masas[std::string(x.formula)], MasaMolar(x.formula), 0.5) << x.formula;
+    if (x.coef != 0) {
+      EXPECT_NEAR(l.masas[std::string(x.formula)], MasaMolar(x.formula), 0.5) << x.formula;
+    }
   const test::Datos d(st);
   l.T = d.En("\xB0" "C") + 273.15, l.P = d.En("atm");
   std::smatch m;
@@ -272,7 +283,9 @@ TEST(Stoichiometry, AmountsOfOneReactionFollowFromTheGivenOne) {
         filas.insert(gen * 100 + l.r.fila);
         auto moles = [&](int j) { return n / std::fabs(l.r.s[d.k].coef) * std::fabs(l.r.s[j].coef); };
         Responde(l, {Pide(l, Tras(l.st, "a)&-B "), moles), Pide(l, Tras(l.st, "b)&-B "), moles)});
-        if (gen == 6) EXPECT_TRUE(l.st.find("& g of") != std::string::npos || l.st.find("& mol of") != std::string::npos);
+        if (gen == 6) {
+          EXPECT_TRUE(l.st.find("& g of") != std::string::npos || l.st.find("& mol of") != std::string::npos);
+        }
       }
   EXPECT_GE(filas.size(), 25u) << "most reactions of the table come up";
 }
@@ -306,7 +319,9 @@ TEST(Stoichiometry, YieldScalesTheProductsAndIsFoundFromWhatWasObtained) {
           esperadas.push_back(Pide(l, q, real));
       const std::vector<test::Mostrado> dadas = test::Respuestas(l.so);
       ASSERT_EQ(dadas.size(), esperadas.size());
-      if (std::isnan(l.rendimiento)) EXPECT_NEAR(dadas[0].valor, esperadas[0], 0.5) << "the yield, to the whole percent";
+      if (std::isnan(l.rendimiento)) {
+        EXPECT_NEAR(dadas[0].valor, esperadas[0], 0.5) << "the yield, to the whole percent";
+      }
       for (std::size_t j = std::isnan(l.rendimiento) ? 1 : 0; j < dadas.size(); ++j)
         test::EsperaCerca(dadas[j], esperadas[j], 5.01e-4 * std::fabs(esperadas[j]));
     }
@@ -356,9 +371,65 @@ TEST(Stoichiometry, ListsOfEquationsToBalance) {
   }
 }
 
+// Generator 4, read as a student reads it: the mass of A, the molar masses
+// listed, the equation of the solution checked balanced, every amount from
+// those; and the reaction one that happens in water, by the rules of a
+// textbook's solubility table rather than the generator's own.
+TEST(Stoichiometry, DoubleExchangesHappenAndTheirAmountsFollowFromTheMassGiven) {
+  const std::set<std::string> nunca = {"CuI_2", "FeI_3", "Fe_2S_3", "Al_2S_3", "Cr_2S_3", "MgS", "CaS", "AgOH", "CuOH",
+                                       "Al_2(CO_3)_3", "Fe_2(CO_3)_3", "Cr_2(CO_3)_3", "CuCO_3", "Cu_2SO_4", "CuNO_3"};
+  const std::set<std::string> resistenAcido = {"AgCl", "AgBr", "AgI", "CuCl", "CuBr", "CuI", "PbI_2", "PbSO_4",
+                                               "CuS", "PbS", "CdS", "Ag_2S", "Cu_2S"};
+  const std::set<std::string> fluoruros = {"CaF_2", "MgF_2", "PbF_2", "Li_3PO_4"};
+  const std::set<std::string> fuertes = {"HCl", "HBr", "HI", "HNO_3", "H_2SO_4", "HClO_3", "HClO_4"};
+  const std::regex insoluble(R"(^(?!(Na|K|Li))[A-Z][a-z]?(_\d)?(\(OH\)_\d|OH|\(?CO_3|\(?PO_4|\(?P_2O_7|S)(\)?_\d)?$)");
+  std::set<std::string> vistas;
+  for (uint64_t semilla = 1; semilla <= 300; ++semilla) {
+    GenContext g(&test::Textos(), Aleatorio(semilla));
+    std::string st, so;
+    GeneraProblema(g, "ANEU_QUIM_ETQ", "004000" + ZeroPadCut(semilla, 4) + "000301", st, so);
+    SCOPED_TRACE(st + "\n" + so);
+    std::smatch m;
+    ASSERT_TRUE(std::regex_search(st, m, std::regex(R"(^(\d+)& g of (\S+) react.*?of (\S+)\.&LF)")));
+    const double masa = std::stod(m[1]);
+    const std::string ecuacion = Tras(so, "a)&-B& ");
+    vistas.insert(ecuacion);
+    const std::size_t f = ecuacion.find("&ars");
+    std::vector<std::string> x;
+    const Atomos izquierda = Lado(ecuacion.substr(0, f), &x);
+    ASSERT_EQ(izquierda, Lado(ecuacion.substr(f + 4), &x));
+    ASSERT_EQ(x.size(), 4u);
+    EXPECT_TRUE(x[0] == m[2] && x[1] == m[3]);
+    EXPECT_EQ(Tras(st, "c)&-B "), "the mass of " + x[2] + " and the amount in moles of " + x[3] + " formed.");
+    std::map<std::string, double> M = Masas(st);
+    for (const std::string& c : x) EXPECT_NEAR(M[c], MasaMolar(c), 0.6) << c;
+    std::array<double, 4> coef{};
+    for (int k = 0; k < 4; ++k) {
+      const std::size_t at = ecuacion.find(x[k], k < 2 ? 0 : f);
+      coef[k] = at > 0 && std::isdigit(static_cast<unsigned char>(ecuacion[at - 1])) ? ecuacion[at - 1] - '0' : 1;
+    }
+    const double n = masa / M[x[0]] / coef[0];
+    const std::vector<test::Mostrado> dadas = test::Respuestas(so.substr(so.find("b)")));
+    ASSERT_EQ(dadas.size(), 4u);
+    const double esperadas[4] = {n * coef[1] * M[x[1]], n * coef[1], n * coef[2] * M[x[2]], n * coef[3]};
+    for (int k = 0; k < 4; ++k) test::EsperaCerca(dadas[k], esperadas[k]);
+    // The chemistry: real compounds only, and a reaction that runs.
+    for (const std::string& c : x) EXPECT_EQ(nunca.count(c), 0u) << c;
+    EXPECT_TRUE(x[0] != "H_2O" && x[1] != "H_2O" && x[3] != "H_2O");
+    const bool acido = (x[2][0] == 'H' && x[2] != "H_2O") || x[3][0] == 'H';
+    const bool gas = (x[2] == "H_2S" || x[2] == "H_2CO_3" || x[3] == "H_2S" || x[3] == "H_2CO_3") &&
+                     (fuertes.count(x[0]) || fuertes.count(x[1]));
+    auto precipita = [&](const std::string& c) {
+      return resistenAcido.count(c) || (!acido && (std::regex_match(c, insoluble) || fluoruros.count(c)));
+    };
+    EXPECT_TRUE(x[2] == "H_2O" || gas || precipita(x[2]) || precipita(x[3])) << "nothing drives " << ecuacion;
+  }
+  EXPECT_GT(vistas.size(), 120u);
+}
+
 // Every generator written so far, every variant, 200 seeds: whole problems only.
 TEST(Stoichiometry, EveryVariantMakesWholeProblems) {
-  for (int gen : {1, 2, 3, 5, 6})
+  for (int gen : {1, 2, 3, 4, 5, 6})
     for (int v = 0; v < 12; ++v)
       for (uint64_t semilla = 1; semilla <= 200; ++semilla) {
         GenContext g(&test::Textos(), Aleatorio(semilla));
