@@ -1,6 +1,8 @@
 // Redox.
 #include "modules/modulos.h"
 
+#include "modules/ANEU_QUIM_RDX/rdx.h"
+
 namespace ss::mod {
 namespace {
 
@@ -19,9 +21,9 @@ constexpr Entrada kEntradas[8] = {
     {"3", "840", kRedox, "160", ""},     // 8 electrolysis
 };
 
-// Generators 1..8, in the order of their numbers. An empty slot is a
-// generator not written yet: its problems come out as the fallback notice.
-constexpr Generador kGeneradores[8] = {};
+// Generators 1..8, in the order of their numbers.
+constexpr Generador kGeneradores[8] = {rdx::Generador1, rdx::Generador2, rdx::Generador3, rdx::Generador4,
+                                       rdx::Generador5, rdx::Generador6, rdx::Generador7, rdx::Generador8};
 
 }  // namespace
 
