@@ -63,6 +63,9 @@ struct Normal {
 inline constexpr int kNormales = 7;
 const std::array<Normal, kNormales>& TablaNormales();
 
+// Row `fila` (1..16) of the electrolysis gas couples: its half-reaction.
+std::string_view SemirreaccionGas(int fila);
+
 // x to the four significant figures a page shows it with: the answers are
 // worked from the data as shown.
 double Cifras4(double x);
