@@ -12,82 +12,13 @@
 #include <regex>
 
 #include "modules/ANEU_QUIM_ETQ/etq.h"
+#include "tests/modules/atomos.h"
 #include "tests/modules/dis_comun.h"
 
 namespace ss::mod::etq {
 namespace {
 
-using Atomos = std::map<std::string, int>;
 using test::Tras;
-
-// The atoms of a formula in markup: "Al_2(SO_4)_3", "C_4H_1_0" (a subscript
-// of two digits is written digit by digit), "(NH_4)_2SO_4".
-Atomos Cuenta(std::string_view f, std::size_t& i) {
-  Atomos a;
-  auto numero = [&] {
-    int n = 0;
-    bool hay = false;
-    while (i + 1 < f.size() && f[i] == '_' && std::isdigit(static_cast<unsigned char>(f[i + 1])))
-      n = 10 * n + (f[i + 1] - '0'), i += 2, hay = true;
-    return hay ? n : 1;
-  };
-  while (i < f.size() && f[i] != ')') {
-    Atomos parte;
-    if (f[i] == '(') {
-      ++i;
-      parte = Cuenta(f, i);
-      ++i;  // ")"
-    } else if (std::isupper(static_cast<unsigned char>(f[i]))) {
-      std::string e(1, f[i++]);
-      while (i < f.size() && std::islower(static_cast<unsigned char>(f[i]))) e += f[i++];
-      parte[e] = 1;
-    } else {
-      ADD_FAILURE() << "unreadable formula " << f;
-      return a;
-    }
-    const int n = numero();
-    for (const auto& [e, k] : parte) a[e] += k * n;
-  }
-  return a;
-}
-Atomos Cuenta(std::string_view f) {
-  std::size_t i = 0;
-  Atomos a = Cuenta(f, i);
-  EXPECT_EQ(i, f.size()) << f;
-  return a;
-}
-
-// The atoms of one side: "2C_4H_1_0  +  13O_2", each coefficient times its formula.
-Atomos Lado(std::string_view lado, std::vector<std::string>* formulas = nullptr) {
-  Atomos a;
-  while (!lado.empty()) {
-    const std::size_t mas = lado.find(" + ");
-    std::string_view t = Trim(lado.substr(0, mas));
-    int n = 0;
-    while (!t.empty() && std::isdigit(static_cast<unsigned char>(t[0]))) n = 10 * n + (t[0] - '0'), t.remove_prefix(1);
-    for (const auto& [e, k] : Cuenta(t)) a[e] += k * (n ? n : 1);
-    if (formulas) formulas->emplace_back(t);
-    if (mas == std::string_view::npos) break;
-    lado.remove_prefix(mas + 3);
-  }
-  return a;
-}
-
-// A balanced equation, and its stripped form: the same formulas, no coefficients.
-void Ajustada(const std::string& ajustada, const std::string& sinAjustar) {
-  const std::size_t f = ajustada.find("&ars");
-  ASSERT_NE(f, std::string::npos) << ajustada;
-  std::vector<std::string> formulas, sin;
-  const Atomos izquierda = Lado(ajustada.substr(0, f), &formulas);
-  EXPECT_EQ(izquierda, Lado(ajustada.substr(f + 4), &formulas)) << ajustada;
-  const std::size_t g = sinAjustar.find("&ars");
-  ASSERT_NE(g, std::string::npos) << sinAjustar;
-  Lado(sinAjustar.substr(0, g), &sin), Lado(sinAjustar.substr(g + 4), &sin);
-  EXPECT_EQ(formulas, sin) << sinAjustar;
-  EXPECT_FALSE(std::isdigit(static_cast<unsigned char>(sinAjustar[0]))) << sinAjustar;
-  for (std::size_t k = 0; k + 1 < sinAjustar.size(); ++k)
-    EXPECT_FALSE(sinAjustar[k] == ' ' && std::isdigit(static_cast<unsigned char>(sinAjustar[k + 1]))) << sinAjustar;
-}
 
 double MasaMolar(std::string_view f) {
   static const std::map<std::string, double> kMasas = {
@@ -96,7 +27,7 @@ double MasaMolar(std::string_view f) {
       {"F", 18.998}, {"Mg", 24.305}, {"Cr", 51.996}, {"Fe", 55.845}, {"Cu", 63.546}, {"Br", 79.904}, {"Ag", 107.87},
       {"Cd", 112.41}, {"I", 126.90}, {"Pb", 207.2}};
   double m = 0;
-  for (const auto& [e, n] : Cuenta(f)) m += n * kMasas.at(e);
+  for (const auto& [e, n] : test::Especie(f).atomos) m += n * kMasas.at(e);
   return m;
 }
 
@@ -104,7 +35,7 @@ TEST(Stoichiometry, EveryReactionOfTheTableIsBalancedWithRealMolarMasses) {
   for (int fila = 1; fila <= kReacciones; ++fila) {
     SCOPED_TRACE(fila);
     const ReaccionETQ r = Reaccion(fila);
-    Ajustada(r.ajustada, r.sinAjustar);
+    test::EsperaAjustada(r.ajustada, r.sinAjustar);
     for (const Sustancia& s : r.s)
       if (s.coef != 0) {
         EXPECT_NEAR(s.masaMolar, MasaMolar(s.formula), std::max(0.005 * s.masaMolar, 0.05)) << s.formula;
@@ -126,7 +57,7 @@ TEST(Stoichiometry, TemplatesGiveBalancedEquationsOfRealCompoundsOnly) {
   for (int t = 0; t < kPlantillas; ++t)
     for (int k = 0; k < 300; ++k) {
       const Ecuacion e = EcuacionPlantilla(g, t + kPlantillas * (k % 4));
-      Ajustada(e.ajustada, e.sinAjustar);
+      test::EsperaAjustada(e.ajustada, e.sinAjustar);
       vistas.insert(e.ajustada);
       for (const std::string& n : nunca) EXPECT_EQ(e.ajustada.find(n), std::string::npos) << e.ajustada;
       EXPECT_FALSE(std::regex_search(e.ajustada, ranura)) << TextoPlantilla(t) << " left a slot: " << e.ajustada;
@@ -151,8 +82,7 @@ TEST(Stoichiometry, IonicFormulasAndDoubleExchangesAreBalanced) {
         for (int a2 = 2; a2 <= 55; a2 += 4) {
           const Ion &x = CationDeSorteo(c1), &y = CationDeSorteo(c2), &p = AnionDeSorteo(a1), &q = AnionDeSorteo(a2);
           const DobleCambio d = AjustaDobleCambio(x, p, y, q);
-          const std::size_t f = d.ecuacion.find("&ars");
-          ASSERT_EQ(Lado(d.ecuacion.substr(0, f)), Lado(d.ecuacion.substr(f + 4))) << d.ecuacion;
+          test::EsperaAjustada(d.ecuacion);
           EXPECT_EQ(std::gcd(std::gcd(d.coef[0], d.coef[1]), std::gcd(d.coef[2], d.coef[3])), 1) << d.ecuacion;
         }
 }
@@ -365,7 +295,7 @@ TEST(Stoichiometry, ListsOfEquationsToBalance) {
       ASSERT_EQ(enunciados.size(), static_cast<std::size_t>(lineas));
       ASSERT_EQ(soluciones.size(), static_cast<std::size_t>(lineas));
       EXPECT_EQ(std::set<std::string>(soluciones.begin(), soluciones.end()).size(), soluciones.size());
-      for (int k = 0; k < lineas; ++k) Ajustada(soluciones[k], enunciados[k]);
+      for (int k = 0; k < lineas; ++k) test::EsperaAjustada(soluciones[k], enunciados[k]);
       EXPECT_NE(st.find("&SP=10:&+B" + std::string(1, static_cast<char>('a' + lineas - 1)) + ")"), std::string::npos);
     }
   }
@@ -395,19 +325,16 @@ TEST(Stoichiometry, DoubleExchangesHappenAndTheirAmountsFollowFromTheMassGiven) 
     const std::string ecuacion = Tras(so, "a)&-B& ");
     vistas.insert(ecuacion);
     const std::size_t f = ecuacion.find("&ars");
-    std::vector<std::string> x;
-    const Atomos izquierda = Lado(ecuacion.substr(0, f), &x);
-    ASSERT_EQ(izquierda, Lado(ecuacion.substr(f + 4), &x));
+    test::EsperaAjustada(ecuacion);
+    std::vector<std::string> x = test::Formulas(ecuacion.substr(0, f));
+    for (const std::string& y : test::Formulas(ecuacion.substr(f + 4))) x.push_back(y);
     ASSERT_EQ(x.size(), 4u);
     EXPECT_TRUE(x[0] == m[2] && x[1] == m[3]);
     EXPECT_EQ(Tras(st, "c)&-B "), "the mass of " + x[2] + " and the amount in moles of " + x[3] + " formed.");
     std::map<std::string, double> M = Masas(st);
     for (const std::string& c : x) EXPECT_NEAR(M[c], MasaMolar(c), 0.6) << c;
     std::array<double, 4> coef{};
-    for (int k = 0; k < 4; ++k) {
-      const std::size_t at = ecuacion.find(x[k], k < 2 ? 0 : f);
-      coef[k] = at > 0 && std::isdigit(static_cast<unsigned char>(ecuacion[at - 1])) ? ecuacion[at - 1] - '0' : 1;
-    }
+    for (int k = 0; k < 4; ++k) coef[k] = test::Coeficiente(ecuacion, x[k]);
     const double n = masa / M[x[0]] / coef[0];
     const std::vector<test::Mostrado> dadas = test::Respuestas(so.substr(so.find("b)")));
     ASSERT_EQ(dadas.size(), 4u);

@@ -10,7 +10,7 @@
 
 #include "modules/ANEU_QUIM_RDX/rdx.h"
 #include "tests/modules/dis_comun.h"
-#include "tests/modules/rdx_atomos.h"
+#include "tests/modules/atomos.h"
 
 namespace ss::mod::rdx {
 namespace {
@@ -132,7 +132,7 @@ void Comprueba(int forma, const test::Problema& p) {
   int vistas = 0;
   for (std::sregex_iterator it(lineas.begin(), lineas.end(), reaccion), end; it != end; ++it, ++vistas) {
     const std::string e = (*it)[1];
-    rdx_test::EsperaAjustada(e);
+    test::EsperaAjustada(e);
     if (vistas == 0 && !sal.metal.empty() && forma != 2 && forma != 8) {  // z electrons give the metal
       EXPECT_EQ(e.substr(e.find("&ars ") + 5, sal.metal.size() + 1), sal.metal + (sal.z == 6 ? " " : "")) << e;
       EXPECT_NE(e.find("+ " + (sal.z == 1 ? std::string() : std::to_string(int(sal.z))) + "e#"), std::string::npos) << e;
@@ -157,7 +157,7 @@ TEST(Electrolysis, EveryAnswerFollowsFromTheStatementByFaradaysLaw) {
 }
 
 TEST(Electrolysis, TheGasCouplesAreBalanced) {
-  for (int fila = 1; fila <= 16; ++fila) rdx_test::EsperaAjustada(SemirreaccionGas(fila));
+  for (int fila = 1; fila <= 16; ++fila) test::EsperaAjustada(SemirreaccionGas(fila));
 }
 
 }  // namespace

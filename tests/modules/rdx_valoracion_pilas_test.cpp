@@ -15,7 +15,7 @@
 #include <vector>
 
 #include "tests/modules/dis_comun.h"
-#include "tests/modules/rdx_atomos.h"
+#include "tests/modules/atomos.h"
 
 namespace ss {
 namespace {
@@ -46,7 +46,7 @@ int Romano(const std::string& r) {
 
 // The oxidation number of `elemento` in a species, oxygen -2 and hydrogen +1.
 double Estado(const std::string& especie, const std::string& elemento) {
-  const rdx_test::Carga c = rdx_test::Especie(especie);
+  const test::Carga c = test::Especie(especie);
   double resto = c.carga;
   for (const auto& [e, n] : c.atomos)
     if (e == "O") resto += 2 * n;
@@ -180,7 +180,7 @@ void SumaLado(Especies& e, std::string lado, int signo) {
     int n = 0;
     std::size_t i = 0;
     while (i < t.size() && std::isdigit(static_cast<unsigned char>(t[i]))) n = 10 * n + (t[i++] - '0');
-    std::string especie = rdx_test::Limpia(t.substr(i));
+    std::string especie = test::Limpia(t.substr(i));
     if (especie.starts_with("e#")) especie = "e";
     e[especie] += signo * (n ? n : 1);
     if (mas == std::string::npos) break;
@@ -239,8 +239,8 @@ TEST(RedoxCells, HalfReactionsOverallReactionPotentialAndNotationFollowFromTheCo
       // The half-reactions: the anode oxidises the reduced form of one couple,
       // the cathode reduces the oxidised form of the other.
       const std::string oxid = Captura(so, R"(oxidation: (.*?);&LF)"), red = Captura(so, R"(reduction: (.*?)\.&LF)");
-      rdx_test::EsperaAjustada(oxid);
-      rdx_test::EsperaAjustada(red);
+      test::EsperaAjustada(oxid);
+      test::EsperaAjustada(red);
       auto lados = [](const std::string& ec) {
         const std::size_t f = ec.find(" &ars ");
         return std::pair{ec.substr(0, f), ec.substr(f + 6)};
@@ -266,7 +266,7 @@ TEST(RedoxCells, HalfReactionsOverallReactionPotentialAndNotationFollowFromTheCo
       // common multiple, electrons gone.
       const std::string global = forma == 3 ? Captura(st, R"(overall reaction of the cell is (.*?)\. With)")
                                             : Captura(so, R"(b\)&-B (.*?)\.&LF)");
-      rdx_test::EsperaAjustada(global);
+      test::EsperaAjustada(global);
       const Especies eOx = Ecuacion(oxid), eRed = Ecuacion(red);
       const int ne = -eOx.at("e"), nc = eRed.at("e"), L = std::lcm(ne, nc);
       Especies suma;

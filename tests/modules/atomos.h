@@ -1,4 +1,6 @@
-// An atom and charge counter for equations in page markup, the tests' own:
+// An atom and charge counter for equations in page markup, the tests' own
+// (formulas such as "Al_2(SO_4)_3" or "C_4H_1_0", a two-digit subscript being
+// written digit by digit, and ions):
 // "Cr_2O#SPB(L2-#T)(7#SPB) + 14H^+ + 6e#SPB(L-#T)( #SPB) &ars 2Cr^3^+ + 7H_2O".
 // Ions are written "Cu^2^+", "H^+" or with the construct that stacks the
 // charge over the subscript; "e" alone is the electron; state marks such as
@@ -8,12 +10,14 @@
 
 #include <cctype>
 #include <map>
+#include <regex>
+#include <vector>
 #include <string>
 #include <string_view>
 
 #include "problems/texto.h"
 
-namespace ss::rdx_test {
+namespace ss::test {
 
 struct Carga {
   std::map<std::string, int> atomos;
@@ -126,14 +130,48 @@ inline Carga LadoCarga(std::string_view lado) {
   return total;
 }
 
-// Atoms and charge the same on both sides of "&ars" (or " = ").
-inline void EsperaAjustada(std::string_view ecuacion) {
+// The formulas of one side, in order, without their coefficients.
+inline std::vector<std::string> Formulas(std::string_view lado) {
+  std::vector<std::string> v;
+  while (!lado.empty()) {
+    const std::size_t mas = lado.find(" + ");
+    std::string_view t = Trim(lado.substr(0, mas));
+    while (!t.empty() && std::isdigit(static_cast<unsigned char>(t[0]))) t.remove_prefix(1);
+    v.emplace_back(t);
+    if (mas == std::string_view::npos) break;
+    lado.remove_prefix(mas + 3);
+  }
+  return v;
+}
+
+// The coefficient of formula f in an equation (0 when it is not there).
+inline int Coeficiente(std::string_view ecuacion, std::string_view f) {
+  for (std::size_t a = ecuacion.find(f); a != std::string_view::npos; a = ecuacion.find(f, a + 1)) {
+    std::size_t i = a;
+    while (i > 0 && std::isdigit(static_cast<unsigned char>(ecuacion[i - 1]))) --i;
+    const std::size_t fin = a + f.size();
+    if ((i == 0 || ecuacion[i - 1] == ' ') && (fin == ecuacion.size() || ecuacion[fin] == ' '))
+      return a == i ? 1 : std::stoi(std::string(ecuacion.substr(i, a - i)));
+  }
+  return 0;
+}
+
+// Atoms and charge the same on both sides of "&ars" (or " = "); and, when
+// given, a stripped form with the same formulas and no coefficient.
+inline void EsperaAjustada(std::string_view ecuacion, std::string_view sinAjustar = {}) {
   std::size_t f = ecuacion.find("&ars"), largo = 4;
   if (f == std::string_view::npos) f = ecuacion.find(" = "), largo = 3;
   ASSERT_NE(f, std::string_view::npos) << ecuacion;
   const Carga a = LadoCarga(ecuacion.substr(0, f)), b = LadoCarga(ecuacion.substr(f + largo));
   EXPECT_EQ(a.atomos, b.atomos) << ecuacion;
   EXPECT_EQ(a.carga, b.carga) << ecuacion;
+  if (sinAjustar.empty()) return;
+  const std::size_t g = sinAjustar.find("&ars");
+  ASSERT_NE(g, std::string_view::npos) << sinAjustar;
+  EXPECT_EQ(Formulas(ecuacion.substr(0, f)), Formulas(sinAjustar.substr(0, g))) << sinAjustar;
+  EXPECT_EQ(Formulas(ecuacion.substr(f + largo)), Formulas(sinAjustar.substr(g + 4))) << sinAjustar;
+  const std::string s(sinAjustar);
+  EXPECT_FALSE(std::regex_search(s, std::regex(R"((^| )\d)"))) << sinAjustar;
 }
 
-}  // namespace ss::rdx_test
+}  // namespace ss::test
