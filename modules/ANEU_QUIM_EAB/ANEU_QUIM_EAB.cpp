@@ -1,6 +1,8 @@
 // Acid-base equilibrium.
 #include "modules/modulos.h"
 
+#include "modules/ANEU_QUIM_EAB/eab.h"
+
 namespace ss::mod {
 namespace {
 
@@ -19,9 +21,8 @@ constexpr Entrada kEntradas[8] = {
     {"3", "820", kAcidoBase, "160", ""},     // 8 titrations
 };
 
-// Generators 1..8, in the order of their numbers. An empty slot is a
-// generator not written yet: its problems come out as the fallback notice.
-constexpr Generador kGeneradores[8] = {};
+// Generators 1..8, in the order of their numbers.
+constexpr Generador kGeneradores[8] = {eab::Generador1, eab::Generador2, eab::Generador3, eab::Generador4, eab::Generador5, eab::Generador6, eab::Generador7, eab::Generador8};
 
 }  // namespace
 

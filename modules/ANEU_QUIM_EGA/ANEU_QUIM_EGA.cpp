@@ -1,6 +1,8 @@
 // Gas equilibrium.
 #include "modules/modulos.h"
 
+#include "modules/ANEU_QUIM_EGA/ega.h"
+
 namespace ss::mod {
 namespace {
 
@@ -15,9 +17,8 @@ constexpr Entrada kEntradas[4] = {
     {"3", "810", kEquilibrioGas, "080", ""},  // 4 amounts at equilibrium from K
 };
 
-// Generators 1..4, in the order of their numbers. An empty slot is a
-// generator not written yet: its problems come out as the fallback notice.
-constexpr Generador kGeneradores[4] = {};
+// Generators 1..4, in the order of their numbers.
+constexpr Generador kGeneradores[4] = {ega::Generador1, ega::Generador2, ega::Generador3, ega::Generador4};
 
 }  // namespace
 
