@@ -1,6 +1,8 @@
 // Kinetics and solubility.
 #include "modules/modulos.h"
 
+#include "modules/ANEU_QUIM_CEP/cep.h"
+
 namespace ss::mod {
 namespace {
 
@@ -17,9 +19,8 @@ constexpr Entrada kEntradas[5] = {
     {"3", "800", kCinetica, "060", ""},       // 5 Arrhenius equation
 };
 
-// Generators 1..5, in the order of their numbers. An empty slot is a
-// generator not written yet: its problems come out as the fallback notice.
-constexpr Generador kGeneradores[5] = {};
+// Generators 1..5, in the order of their numbers.
+constexpr Generador kGeneradores[5] = {cep::Generador1, cep::Generador2, cep::Generador3, cep::Generador4, cep::Generador5};
 
 }  // namespace
 

@@ -1,6 +1,8 @@
 // Thermochemistry.
 #include "modules/modulos.h"
 
+#include "modules/ANEU_QUIM_TER/ter.h"
+
 namespace ss::mod {
 namespace {
 
@@ -18,9 +20,8 @@ constexpr Entrada kEntradas[7] = {
     {"3", "790", kTermoquimica, "010", ""},  // 7 formation and combustion of organic compounds
 };
 
-// Generators 1..7, in the order of their numbers. An empty slot is a
-// generator not written yet: its problems come out as the fallback notice.
-constexpr Generador kGeneradores[7] = {};
+// Generators 1..7, in the order of their numbers.
+constexpr Generador kGeneradores[7] = {ter::Generador1, ter::Generador2, ter::Generador3, ter::Generador4, ter::Generador5, ter::Generador6, ter::Generador7};
 
 }  // namespace
 
