@@ -1,6 +1,8 @@
 // Atomic structure and bonding.
 #include "modules/modulos.h"
 
+#include "modules/ANEU_QUIM_EAT/eat.h"
+
 namespace ss::mod {
 namespace {
 
@@ -24,9 +26,8 @@ constexpr Entrada kEntradas[13] = {
     {"2", "850", kEstructura, "100", "027"},  // 13 polarity of molecules
 };
 
-// Generators 1..13, in the order of their numbers. An empty slot is a
-// generator not written yet: its problems come out as the fallback notice.
-constexpr Generador kGeneradores[13] = {};
+// Generators 1..13, in the order of their numbers.
+constexpr Generador kGeneradores[13] = {eat::Generador1, eat::Generador2, eat::Generador3, eat::Generador4, eat::Generador5, eat::Generador6, eat::Generador7, eat::Generador8, eat::Generador9, eat::Generador10, eat::Generador11, eat::Generador12, eat::Generador13};
 
 }  // namespace
 

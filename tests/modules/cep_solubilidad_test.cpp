@@ -50,7 +50,7 @@ Leido Lee(int gen, int seqB, uint64_t k, test::Problema& p) {
   if (std::regex_search(st, m, std::regex(R"(K_s&-I& =& ([^ ]+)\.&LF)"))) l.Ks = test::Numeros(m[1])[0];
   if (std::regex_search(st, m, std::regex(R"(pH is kept at ([^ ]+)\.&LF)"))) l.pH = test::Numeros(m[1])[0];
   l.d = test::Datos(st);
-  if (l.d.Tiene("g/mol")) EXPECT_NEAR(l.d.En("g/mol"), test::MasaMolar(test::Formula(l.sal), kAtomicas), 0.1);
+  if (l.d.Tiene("g/mol")) { EXPECT_NEAR(l.d.En("g/mol"), test::MasaMolar(test::Formula(l.sal), kAtomicas), 0.1); }
   std::string so = std::regex_replace(p.so, std::regex(R"(&SP=\d+:|&\+B[a-z]\)&-B |&\+I|&-I|\.&LF$)"), "");
   static const std::regex pieza(R"((?:^|;    |,  )([^=;,]+?) = ([^;,]+))");
   for (std::sregex_iterator it(so.begin(), so.end(), pieza), end; it != end; ++it) {
@@ -132,7 +132,7 @@ TEST(CepSolubilidad, IonComun) {
       // the exact s agrees closely. At a fixed pH [OH-] is exact.
       const double s = cation ? std::pow(Ks / std::pow(c, l.a) / std::pow(l.b, l.b), 1.0 / l.b)
                               : std::pow(Ks / std::pow(c, l.b) / std::pow(l.a, l.a), 1.0 / l.a);
-      if (forma != 4) EXPECT_NEAR(Resuelve(l.a, l.b, Ks, cation ? c : 0, cation ? 0 : c) / s, 1, 3e-3);
+      if (forma != 4) { EXPECT_NEAR(Resuelve(l.a, l.b, Ks, cation ? c : 0, cation ? 0 : c) / s, 1, 3e-3); }
       Compara(l, {{"s_0", s0}, {"K_s", Ks}, {"s", s}});
     }
 }

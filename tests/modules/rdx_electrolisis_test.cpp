@@ -90,9 +90,10 @@ void Comprueba(int forma, const test::Problema& p) {
   for (std::sregex_iterator it(lineas.begin(), lineas.end(), reaccion), end; it != end; ++it, ++k) {
     const std::string e = (*it)[1];
     test::EsperaAjustada(e);
-    if (k == 0 && !sal.metal.empty() && forma != 2 && forma != 8)
+    if (k == 0 && !sal.metal.empty() && forma != 2 && forma != 8) {
       EXPECT_TRUE(test::Coeficiente(e.substr(e.find("&ars")), sal.metal) == 1 &&
                   test::Coeficiente(e.substr(0, e.find("&ars")), "e#SPB(L-#T)( #SPB)") == sal.z) << e;
+    }
     EXPECT_TRUE(k != 1 || forma == 7 || e.find(sal.gas) != std::string::npos) << e;
   }
   EXPECT_EQ(k, forma == 5 ? 0 : forma == 2 || forma == 8 ? 1 : 2) << lineas;
