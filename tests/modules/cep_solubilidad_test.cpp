@@ -1,18 +1,11 @@
-// The solubility problems read as a student reads them: every answer worked again from the numbers the
-// statement shows, the ion ratio read off the salt's formula, and every datum checked against real chemistry.
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <map>
-#include <regex>
-#include <string>
-
+// Solubility problems: every answer worked again from the numbers the statement shows, the ion ratio
+// read off the salt's formula, every datum checked against handbook values.
 #include "tests/modules/dis_comun.h"
 
 namespace ss {
 namespace {
 
-// Handbook solubility products at 25 °C and atomic masses, to check the data shown.
+// Solubility products at 25 °C and atomic masses.
 const std::map<std::string, double> kKs = {{"AgCl", 1.77e-10}, {"CaF_2", 3.45e-11}, {"BaSO_4", 1.08e-10},
     {"Ag_3PO_4", 8.89e-17}, {"Ba(IO_3)_2", 4.01e-9}, {"Ca_3(PO_4)_2", 2.07e-33}, {"Ag_2CrO_4", 1.12e-12},
     {"AgBr", 5.35e-13}, {"AgI", 8.52e-17}, {"Ni(OH)_2", 5.48e-16}, {"Mn(OH)_2", 2.06e-13}, {"Mg(OH)_2", 5.61e-12},
@@ -23,15 +16,14 @@ const std::map<std::string, double> kAtomicas = {{"Ag", 107.87}, {"Cl", 35.45}, 
     {"Ni", 58.69}, {"Mn", 54.94}, {"Mg", 24.31}, {"Zn", 65.38}, {"Cu", 63.55}, {"Pb", 207.2}, {"H", 1.008}};
 
 struct Leido {
-  std::string sal, anadida;  // formulas of the salt and of the salt added
+  std::string sal, anadida;  // the salt and the salt added
   int a = 1, b = 1;          // cations and anions in the formula
   double Ks = NAN, pH = NAN;
   test::Datos d{""};
   std::map<std::string, test::Mostrado> r;  // answers by label: s, s_0, K_s, cat, ani, m, V, pH
 };
 
-// A whole problem as read. The ions come from the formula: the leading metal with its subscript, the rest
-// with its bracket's subscript, or with its own when it is one element.
+// The ions from the formula: the metal's count and the anion's first element's count.
 Leido Lee(int gen, int seqB, uint64_t k, test::Problema& p) {
   GenContext g(&test::Textos(), Aleatorio(k * 7919 + seqB * 31 + gen));
   GeneraProblema(g, "ANEU_QUIM_CEP", ZeroPadCut(gen, 3) + "000" + ZeroPadCut(seqB, 4) + "000301", p.st, p.so);
@@ -39,12 +31,9 @@ Leido Lee(int gen, int seqB, uint64_t k, test::Problema& p) {
   Leido l;
   const auto f = test::FormulasEntreParentesis(p.st);
   l.sal = f.empty() ? "" : f[0], l.anadida = f.size() > 1 ? f[1] : "";
+  const test::Composicion c = test::Formula(l.sal);
+  if (c.size() >= 2) l.a = c[0].second, l.b = c[1].second;
   std::smatch m;
-  if (std::regex_match(l.sal, m, std::regex(R"([A-Z][a-z]?(?:_(\d))?(\()?([A-Za-z_\d]+?)\)?(?:_(\d))?)"))) {
-    l.a = m[1].matched ? std::stoi(m[1]) : 1;
-    const bool unAtomo = std::regex_match(m[3].str(), std::regex(R"([A-Z][a-z]?)"));
-    l.b = m[4].matched && (m[2].matched || unAtomo) ? std::stoi(m[4]) : 1;
-  }
   EXPECT_TRUE(kKs.count(l.sal)) << l.sal;
   const std::string st = std::regex_replace(p.st, std::regex(R"(#SPB\([^)]*\)\([^)]*\))"), "");
   if (std::regex_search(st, m, std::regex(R"(K_s&-I& =& ([^ ]+)\.&LF)"))) l.Ks = test::Numeros(m[1])[0];
@@ -60,11 +49,9 @@ Leido Lee(int gen, int seqB, uint64_t k, test::Problema& p) {
     const double x = (*it)[2].str().ends_with("mg") ? 1e-3 : 1;
     if (v.size() == 1) l.r[e] = {v[0].valor * x, v[0].media * x};
   }
-  // One answer a question, two when both ions are asked.
-  const std::regex letra("&\\+B[a-z]\\)");
-  const auto preguntas = static_cast<std::size_t>(
-      std::distance(std::sregex_iterator(st.begin(), st.end(), letra), std::sregex_iterator()));
-  EXPECT_EQ(l.r.size(), preguntas + (l.r.count("cat") && l.r.count("ani")));
+  const std::regex letra("&\\+B[a-z]\\)");  // one answer a question, two when both ions are asked
+  EXPECT_EQ(l.r.size(), std::distance(std::sregex_iterator(st.begin(), st.end(), letra), std::sregex_iterator()) +
+                            (l.r.count("cat") && l.r.count("ani")));
   return l;
 }
 
@@ -78,63 +65,51 @@ double Resuelve(int a, int b, double Ks, double ca = 0, double cb = 0) {
   return std::pow(10, lo);
 }
 
-// Every answer printed, and only those, equals the value worked from the statement.
 void Compara(const Leido& l, const std::map<std::string, double>& esperado) {
   for (const auto& [e, m] : l.r) {
-    ASSERT_TRUE(esperado.count(e) && !std::isnan(esperado.at(e))) << e;
-    test::EsperaCerca(m, esperado.at(e));
+    EXPECT_TRUE(esperado.count(e)) << e;
+    if (esperado.count(e)) test::EsperaCerca(m, esperado.at(e));
   }
 }
 
-TEST(CepSolubilidad, KsYSolubilidad) {
-  for (int forma = 1; forma <= 7; ++forma)
-    for (uint64_t k = 0; k < 200; ++k) {
-      test::Problema p;
-      const Leido l = Lee(1, forma - 1 + 7 * static_cast<int>(k % 40), k, p);
-      SCOPED_TRACE(p.st + "\n" + p.so);
-      const bool hidroxido = l.sal.find("(OH)") != std::string::npos;
-      const double M = l.d.En("g/mol"), V = l.d.En("mL") / 1000, c = l.d.En("mol/L");
-      const double masa = l.d.Tiene("mg") ? l.d.En("mg") / 1000 : l.d.En("g");
-      const double s = forma == 4   ? masa / (M * V)
-                       : forma == 5 ? c / l.b
-                                    : std::isnan(l.Ks) ? c : Resuelve(l.a, l.b, l.Ks);
-      const double Ks = std::pow(l.a * s, l.a) * std::pow(l.b * s, l.b);
-      EXPECT_NEAR(Ks / kKs.at(l.sal), 1, 0.115) << "Ks far from the handbook value";
-      Compara(l, {{"s", s}, {"K_s", Ks}, {"cat", l.a * s}, {"ani", l.b * s}, {"m", s * V * M},
-                  {"V", masa / (s * M)}, {"pH", 14 + std::log10(l.b * s)}});
-      EXPECT_EQ(l.r.count("pH"), (forma == 3 || forma == 7) && hidroxido);
-      EXPECT_FALSE(hidroxido && (forma == 2 || forma == 5 || forma == 6));
-      EXPECT_TRUE(!l.r.count("V") || (l.r.at("V").valor > 0.2 && l.r.at("V").valor < 3.1));
-      EXPECT_TRUE(!l.r.count("pH") || l.r.at("pH").valor > 8);
-      EXPECT_TRUE((forma != 1 && forma != 4) || s >= 0.99e-4);
-      EXPECT_TRUE(std::isnan(masa) || masa >= 0.001) << "a mass a balance cannot weigh";
-    }
-}
-
-TEST(CepSolubilidad, IonComun) {
-  for (int forma = 1; forma <= 4; ++forma)
-    for (uint64_t k = 0; k < 200; ++k) {
-      test::Problema p;
-      const Leido l = Lee(2, forma - 1 + 4 * static_cast<int>(k % 40), k, p);
-      SCOPED_TRACE(p.st + "\n" + p.so);
-      EXPECT_TRUE(forma != 4 || l.sal.find("(OH)") != std::string::npos);
-      EXPECT_FALSE(l.sal == "Zn(OH)_2" && (forma == 4 || l.anadida == "NaOH")) << "zincate forms";
-      EXPECT_NE(l.anadida, "CuNO_3") << "copper(I) has no stable nitrate";
-      const double dado = l.d.En("mol/L");
-      const double s0 = forma == 2 ? dado : forma == 3 ? dado / l.a : Resuelve(l.a, l.b, l.Ks);
-      const double Ks = std::pow(l.a * s0, l.a) * std::pow(l.b * s0, l.b);
-      EXPECT_LE(Ks, 1e-8);
-      EXPECT_NEAR(Ks / kKs.at(l.sal), 1, 0.115);
-      const double oh = std::pow(10, l.pH - 14), c = forma == 4 ? oh : l.d.En("mol/L", forma == 1 ? 0 : 1);
-      const bool cation = l.anadida.substr(0, 2) == l.sal.substr(0, 2);
-      EXPECT_TRUE(c >= 49 * s0 && (forma == 4 ? l.pH < 13.5 : c >= 0.99e-3 && c <= 1)) << c;
-      // Beside the salt added the salt's own share of the common ion is left out, as the statement says;
-      // the exact s agrees closely. At a fixed pH [OH-] is exact.
-      const double s = cation ? std::pow(Ks / std::pow(c, l.a) / std::pow(l.b, l.b), 1.0 / l.b)
-                              : std::pow(Ks / std::pow(c, l.b) / std::pow(l.a, l.a), 1.0 / l.a);
-      if (forma != 4) { EXPECT_NEAR(Resuelve(l.a, l.b, Ks, cation ? c : 0, cation ? 0 : c) / s, 1, 3e-3); }
-      Compara(l, {{"s_0", s0}, {"K_s", Ks}, {"s", s}});
-    }
+TEST(CepSolubilidad, EveryAnswerFromTheStatement) {
+  for (const auto& [gen, formas] : {std::pair{1, 7}, std::pair{2, 4}})
+    for (int forma = 1; forma <= formas; ++forma)
+      for (uint64_t k = 0; k < 200; ++k) {
+        test::Problema p;
+        const Leido l = Lee(gen, forma - 1 + formas * static_cast<int>(k % 40), k, p);
+        SCOPED_TRACE(p.st + "\n" + p.so);
+        const bool hidroxido = l.sal.find("(OH)") != std::string::npos;
+        const double M = l.d.En("g/mol"), V = l.d.En("mL") / 1000, c0 = l.d.En("mol/L");
+        const double masa = l.d.Tiene("mg") ? l.d.En("mg") / 1000 : l.d.En("g");
+        double s = gen == 2   ? (forma == 2 ? c0 : forma == 3 ? c0 / l.a : Resuelve(l.a, l.b, l.Ks))
+                   : forma == 4 ? masa / (M * V)
+                   : forma == 5 ? c0 / l.b
+                                : std::isnan(l.Ks) ? c0 : Resuelve(l.a, l.b, l.Ks);
+        const double Ks = std::pow(l.a * s, l.a) * std::pow(l.b * s, l.b);
+        EXPECT_NEAR(Ks / kKs.at(l.sal), 1, 0.115) << "Ks far from the handbook value";
+        if (gen == 1) {
+          Compara(l, {{"s", s}, {"K_s", Ks}, {"cat", l.a * s}, {"ani", l.b * s}, {"m", s * V * M},
+                      {"V", masa / (s * M)}, {"pH", 14 + std::log10(l.b * s)}});
+          EXPECT_TRUE(l.r.count("pH") == ((forma == 3 || forma == 7) && hidroxido) &&
+                      !(hidroxido && (forma == 2 || forma == 5 || forma == 6)));
+          EXPECT_TRUE((!l.r.count("V") || (l.r.at("V").valor > 0.2 && l.r.at("V").valor < 3.1)) &&
+                      (!l.r.count("pH") || l.r.at("pH").valor > 8) && ((forma != 1 && forma != 4) || s >= 0.99e-4) &&
+                      (std::isnan(masa) || masa >= 0.001)) << "real ranges: volume, pH, s, a mass a balance weighs";
+          continue;
+        }
+        EXPECT_TRUE((forma != 4 || hidroxido) && l.anadida != "CuNO_3" && Ks <= 1e-8 &&
+                    !(l.sal == "Zn(OH)_2" && (forma == 4 || l.anadida == "NaOH"))) << "no zincate, no CuNO3";
+        const double c = forma == 4 ? std::pow(10, l.pH - 14) : l.d.En("mol/L", forma == 1 ? 0 : 1);
+        const bool cation = l.anadida.substr(0, 2) == l.sal.substr(0, 2);
+        EXPECT_TRUE(c >= 49 * s && (forma == 4 ? l.pH < 13.5 : c >= 0.99e-3 && c <= 1)) << c;
+        // The salt's own share of the common ion is left out; the exact s agrees closely.
+        const double s0 = s;
+        s = cation ? std::pow(Ks / std::pow(c, l.a) / std::pow(l.b, l.b), 1.0 / l.b)
+                   : std::pow(Ks / std::pow(c, l.b) / std::pow(l.a, l.a), 1.0 / l.a);
+        EXPECT_TRUE(forma == 4 || std::fabs(Resuelve(l.a, l.b, Ks, cation ? c : 0, cation ? 0 : c) / s - 1) < 3e-3);
+        Compara(l, {{"s_0", s0}, {"K_s", Ks}, {"s", s}});
+      }
 }
 
 }  // namespace
