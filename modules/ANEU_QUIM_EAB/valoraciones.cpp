@@ -241,6 +241,24 @@ double PHMezcla(double ca, double va, double cb, double vb) {
   return exceso > 0 ? -Log10(exceso) : 14 + Log10(-exceso);
 }
 
+// A weighed standard (m from mMin to mMax mg) titrated to its equivalence
+// point: the molarity of the titrant, worked from the burette reading shown.
+void Patron(GenContext& g, const Reactivo& r, double mMin, double mMax, double paso, std::string_view clave,
+            std::string_view titulante, std::string& volumen, std::string& masaMolar, Datos& d, std::string& st,
+            std::string& so) {
+  double m, c0, v;
+  do {
+    m = AleatorioEn(g.rnd, mMin, mMax, paso, 1) / 1000;
+    c0 = CTitulante(g);
+    v = r.equivalentes * m / r.masaMolar / c0 * 1000;
+  } while (!Bureta(v));
+  v = Cifras4(v);
+  const double c = r.equivalentes * m / r.masaMolar / (v / 1000);
+  d.mi = Gramos(m), d.for1 = std::string(r.formula), masaMolar = GMol(r.masaMolar), volumen = N4(v) + "& mL";
+  st = g.MsgQUI(clave) + "&LF";
+  so = "&SP=10:[" + std::string(titulante) + "] = " + N4(c) + "& mol/L&LF&SP=10:" + std::string(r.reaccion) + "&LF";
+}
+
 }  // namespace
 
 void Generador8(GenContext& g) {
@@ -271,37 +289,15 @@ void Generador8(GenContext& g) {
       break;
     }
 
-    case 4: {
-      const Reactivo* r = &At(kCarbonatos, Sorteo(g, 1, 3) - 1);
-      double m, ca, va;
-      do {
-        m = AleatorioEn(g.rnd, 500, 4000, 50, 1) / 1000;
-        ca = CTitulante(g);
-        va = r->equivalentes * m / r->masaMolar / ca * 1000;
-      } while (!Bureta(va));
-      va = Cifras4(va);
-      const double c = r->equivalentes * m / r->masaMolar / (va / 1000);
-      d.mi = Gramos(m), d.for1 = std::string(r->formula), d.mb = GMol(r->masaMolar), d.va = N4(va) + "& mL";
-      st = g.MsgQUI("Hallar_MolaridHCl_Valorac_CO3") + "&LF";
-      so = "&SP=10:[HCl] = " + N4(c) + "& mol/L&LF&SP=10:" + std::string(r->reaccion) + "&LF";
+    case 4:
+      Patron(g, At(kCarbonatos, Sorteo(g, 1, 3) - 1), 500, 4000, 50, "Hallar_MolaridHCl_Valorac_CO3", "HCl", d.va,
+             d.mb, d, st, so);
       break;
-    }
 
-    case 5: {
-      const Reactivo* r = &At(kAcidos, Sorteo(g, 1, 7) - 1);
-      double m, cb, vb;
-      do {
-        m = AleatorioEn(g.rnd, 50, 800, 5, 1) / 1000;
-        cb = CTitulante(g);
-        vb = r->equivalentes * m / r->masaMolar / cb * 1000;
-      } while (!Bureta(vb));
-      vb = Cifras4(vb);
-      const double c = r->equivalentes * m / r->masaMolar / (vb / 1000);
-      d.mi = Gramos(m), d.for1 = std::string(r->formula), d.ma = GMol(r->masaMolar), d.vb = N4(vb) + "& mL";
-      st = g.MsgQUI("Hallar_MolaridNaOH_Valorac_acido") + "&LF";
-      so = "&SP=10:[NaOH] = " + N4(c) + "& mol/L&LF&SP=10:" + std::string(r->reaccion) + "&LF";
+    case 5:
+      Patron(g, At(kAcidos, Sorteo(g, 1, 7) - 1), 50, 800, 5, "Hallar_MolaridNaOH_Valorac_acido", "NaOH", d.vb, d.ma,
+             d, st, so);
       break;
-    }
 
     case 6: {
       double m, M, cb, vb;
