@@ -25,8 +25,7 @@ struct Leido {
 
 // The ions from the formula: the metal's count and the anion's first element's count.
 Leido Lee(int gen, int seqB, uint64_t k, test::Problema& p) {
-  GenContext g(&test::Textos(), Aleatorio(k * 7919 + seqB * 31 + gen));
-  GeneraProblema(g, "ANEU_QUIM_CEP", ZeroPadCut(gen, 3) + "000" + ZeroPadCut(seqB, 4) + "000301", p.st, p.so);
+  p = test::GeneraEn("ANEU_QUIM_CEP", gen, seqB, 0, k * 7919 + seqB * 31 + gen);
   EXPECT_FALSE(std::regex_search(p.st + p.so, std::regex("%[A-Za-z0-9_]+%|ATEM__|<E(RROR|rror)|nan|inf")));
   Leido l;
   const auto f = test::FormulasEntreParentesis(p.st);

@@ -60,14 +60,20 @@ struct Problema {
   std::string st, so;
 };
 
-inline Problema Genera(int gen, int seqB, int items, uint64_t semilla) {
-  GenContext g(&Textos(), Aleatorio(semilla * 104729 + static_cast<uint64_t>(gen)));
+// One problem of generator `gen` of a module from the random seed `siembra`:
+// every key found, every placeholder filled.
+inline Problema GeneraEn(std::string_view modulo, int gen, int seqB, int items, uint64_t siembra) {
+  GenContext g(&Textos(), Aleatorio(siembra));
   Problema p;
-  GeneraProblema(g, "ANEU_QUIM_DIS",
-                 ZeroPadCut(gen, 3) + "000" + ZeroPadCut(seqB, 4) + ZeroPadCut(items, 2) + "0301", p.st, p.so);
-  // A whole problem: every key found, every placeholder filled.
+  GeneraProblema(g, modulo, ZeroPadCut(gen, 3) + "000" + ZeroPadCut(seqB, 4) + ZeroPadCut(items, 2) + "0301", p.st,
+                 p.so);
+  EXPECT_FALSE(std::regex_search(p.st + p.so, std::regex("%[A-Za-z0-9_]+%|ATEM__|<Error|<ERROR"))) << p.st << p.so;
+  return p;
+}
+
+inline Problema Genera(int gen, int seqB, int items, uint64_t semilla) {
+  Problema p = GeneraEn("ANEU_QUIM_DIS", gen, seqB, items, semilla * 104729 + static_cast<uint64_t>(gen));
   EXPECT_TRUE(p.st.ends_with("&LF") && p.so.ends_with("&LF") && p.so.size() > 3) << p.st;
-  EXPECT_FALSE(std::regex_search(p.st + p.so, std::regex("%[A-Za-z0-9_]+%|ATEM__|<ERROR"))) << p.st << p.so;
   return p;
 }
 

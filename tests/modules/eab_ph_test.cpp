@@ -25,9 +25,7 @@ const std::map<std::string, double> kAtomicas = {{"H", 1.008}, {"C", 12.011}, {"
 // A whole problem: every key found, every placeholder filled, every number finite, the atomic masses it lists
 // the standard ones rounded.
 test::Problema Genera(int gen, int seqB, uint64_t semilla) {
-  GenContext g(&test::Textos(), Aleatorio(semilla * 7919 + seqB * 31 + gen));
-  test::Problema p;
-  GeneraProblema(g, "ANEU_QUIM_EAB", ZeroPadCut(gen, 3) + "000" + ZeroPadCut(seqB, 4) + "000301", p.st, p.so);
+  const test::Problema p = test::GeneraEn("ANEU_QUIM_EAB", gen, seqB, 0, semilla * 7919 + seqB * 31 + gen);
   EXPECT_TRUE(p.st.ends_with("&LF") && p.so.ends_with("&LF") && p.so.size() > 12) << p.st;
   EXPECT_FALSE(std::regex_search(p.st + p.so, std::regex("%[A-Za-z0-9_]+%|ATEM__|<E(RROR|rror)|nan|inf")));
   for (const auto& [e, x] : test::Masas(p.st)) EXPECT_NEAR(x, kAtomicas.count(e) ? kAtomicas.at(e) : NAN, 0.15) << e;

@@ -12,9 +12,7 @@ using test::Datos;
 using test::EsperaCerca;
 
 test::Problema Genera(int gen, int seqB, uint64_t semilla) {
-  GenContext g(&test::Textos(), Aleatorio(semilla * 7919 + static_cast<uint64_t>(seqB)));
-  test::Problema p;
-  GeneraProblema(g, "ANEU_QUIM_EAT", ZeroPadCut(gen, 3) + "000" + ZeroPadCut(seqB, 4) + "000301", p.st, p.so);
+  const test::Problema p = test::GeneraEn("ANEU_QUIM_EAT", gen, seqB, 0, semilla * 7919 + static_cast<uint64_t>(seqB));
   EXPECT_TRUE(p.st.ends_with("&LF") && p.so.ends_with("&LF")) << p.st;
   EXPECT_FALSE(std::regex_search(p.st + p.so, std::regex("%[A-Za-z0-9_]+%|<ERROR|años"))) << p.st << p.so;
   return p;

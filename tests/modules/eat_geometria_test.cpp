@@ -9,12 +9,7 @@ namespace ss {
 namespace {
 
 test::Problema Genera(int gen, int seqB, int items, uint64_t semilla) {
-  GenContext g(&test::Textos(), Aleatorio(semilla * 7919 + static_cast<uint64_t>(gen)));
-  test::Problema p;
-  GeneraProblema(g, "ANEU_QUIM_EAT", ZeroPadCut(gen, 3) + "000" + ZeroPadCut(seqB, 4) + ZeroPadCut(items, 2) + "0301",
-                 p.st, p.so);
-  EXPECT_FALSE(std::regex_search(p.st + p.so, std::regex("%[A-Za-z0-9_]+%|<ERROR"))) << p.st << p.so;
-  return p;
+  return test::GeneraEn("ANEU_QUIM_EAT", gen, seqB, items, semilla * 7919 + static_cast<uint64_t>(gen));
 }
 
 int Valencia(int z) { return z <= 2 ? z : z <= 10 ? z - 2 : z <= 18 ? z - 10 : z - 28; }

@@ -14,12 +14,7 @@ int ZDe(const std::string& s) {
   return at == std::string::npos ? -9 : static_cast<int>(std::count(t.begin(), t.begin() + at, ' '));
 }
 test::Problema Genera(int gen, int seqB, int items, uint64_t semilla) {
-  GenContext g(&test::Textos(), Aleatorio(semilla * 7919 + static_cast<uint64_t>(gen)));
-  test::Problema p;
-  GeneraProblema(g, "ANEU_QUIM_EAT", ZeroPadCut(gen, 3) + "000" + ZeroPadCut(seqB, 4) + ZeroPadCut(items, 2) + "0301",
-                 p.st, p.so);
-  EXPECT_FALSE(std::regex_search(p.st + p.so, std::regex("%[A-Za-z0-9_]+%|ATEM__|<Error|<ERROR"))) << p.st << p.so;
-  return p;
+  return test::GeneraEn("ANEU_QUIM_EAT", gen, seqB, items, semilla * 7919 + static_cast<uint64_t>(gen));
 }
 std::vector<std::string> Partes(const std::string& t, const std::string& sep, std::vector<std::string> v = {}) {
   for (std::size_t i = 0, j;; i = j + sep.size())

@@ -16,11 +16,7 @@ using test::Coeficiente;
 using test::EsperaAjustada;
 
 test::Problema Genera(int gen, int seqB, int items, uint64_t semilla) {
-  GenContext g(&test::Textos(), Aleatorio(semilla * 7919 + static_cast<uint64_t>(gen)));
-  test::Problema p;
-  GeneraProblema(g, "ANEU_QUIM_RDX",
-                 ZeroPadCut(gen, 3) + "000" + ZeroPadCut(seqB, 4) + ZeroPadCut(items, 2) + "0301", p.st, p.so);
-  return p;
+  return test::GeneraEn("ANEU_QUIM_RDX", gen, seqB, items, semilla * 7919 + static_cast<uint64_t>(gen));
 }
 
 const std::map<std::string, double> kAtomicas = {
