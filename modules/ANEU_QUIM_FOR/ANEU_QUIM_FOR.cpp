@@ -1,6 +1,7 @@
 // Organic nomenclature and structure problems.
 #include "modules/modulos.h"
 
+#include "modules/ANEU_QUIM_FOR/for.h"
 #include "modules/ATEM_QUIM_FOR/ATEM_QUIM_FOR.h"
 
 namespace ss::mod {
@@ -29,9 +30,12 @@ constexpr Entrada kEntradas[13] = {
     {"2", "870", kOrganica, "010", "012"},         // 13 hybridisation of carbon atoms
 };
 
-// Generators 1..13, in the order of their numbers. An empty slot is a
-// generator not written yet: its problems come out as the fallback notice.
-constexpr Generador kGeneradores[13] = {};
+// Generators 1..13, in the order of their numbers. The lists 1..10 give no
+// text here: the fallback's generators of the same numbers make them.
+constexpr Generador kGeneradores[13] = {
+    nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+    FOR::Generador11, FOR::Generador12, FOR::Generador13,
+};
 
 }  // namespace
 
