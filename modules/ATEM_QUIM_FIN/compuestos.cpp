@@ -155,9 +155,14 @@ constexpr string_view kSoloCationesGrandes[] = {
 // strongly reducing ones.
 constexpr string_view kAnionesReductores[] = {"I", "S", "Se", "Te", "SO_3", "NO_2", "PO_2",
                                               "P_2O_5", "PO_3/3", "N_2O_2"};
-constexpr string_view kAnionesOxidantes[] = {"ClO", "ClO_2", "ClO_3", "BrO", "BrO_2", "BrO_3",
-                                             "BrO_4", "IO", "IO_3", "IO_4", "MnO_4", "CrO_4",
-                                             "Cr_2O_7"};
+constexpr string_view kAnionesOxidantes[] = {"ClO",   "ClO_2", "ClO_3", "ClO_4", "BrO",
+                                             "BrO_2", "BrO_3", "BrO_4", "IO",    "IO_3",
+                                             "IO_4",  "MnO_4", "CrO_4", "Cr_2O_7", "NO_2",
+                                             "SeO_4", "TeO_4"};
+
+// Phosphorous acids give up only the protons bound to oxygen: their fully
+// deprotonated anions have no salts.
+constexpr string_view kSinSales[] = {"PO_3/3", "P_2O_5/4"};
 
 // Hydrogen oxoanions that exist, alone and in acid salts.
 constexpr string_view kAnionesAcidos[] = {"CO_3", "SO_3", "SO_4", "SeO_3", "SeO_4",
@@ -341,7 +346,11 @@ bool SalReal(const Metal& m, const Anion& an, bool binario) {
   const bool calcogenuroCobre =
       s == "Cu" && binario && (an.formula == "S" || an.formula == "Se" || an.formula == "Te");
   if (Oxidante(m) && !calcogenuroCobre && EnLista(kAnionesReductores, an)) return false;
-  if (Reductor(m) && EnLista(kAnionesOxidantes, an)) return false;
+  if (Reductor(m) && an.formula != "ClO_4" && EnLista(kAnionesOxidantes, an)) return false;
+  if (!binario && EnLista(kSinSales, an)) return false;
+  // Ions of charge 3 and 4 make no salts with the strong oxidising anions.
+  if (ox >= 3 && (an.formula == "MnO_4" || an.formula == "CrO_4" || an.formula == "Cr_2O_7")) return false;
+  if (ox == 4 && EnLista(kAnionesOxidantes, an)) return false;
   if (!binario && !Grande(m) && EnLista(kSoloCationesGrandes, an)) return false;
   // Carbonates and sulfites of ions of charge 3 or 4 hydrolyse to the hydroxide.
   if (ox >= 3 && (an.formula == "CO_3" || an.formula == "SO_3" || an.formula == "NO_2"))
