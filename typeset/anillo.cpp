@@ -130,9 +130,18 @@ void Ring(Motor& m, std::string_view bloque, int caja) {
 
   if (!p.dibujo) {
     std::array<double, 4> alcance{};  // top, right, foot, left
+    // A label at the side that is taller than the ring (a ring or a branched
+    // group of its own) still keeps the lines above and below clear of it.
+    double sobreLado = 0, altoLado = 0;
     for (int k = 0; k < n; ++k) {
       if (an.rotulo[k].empty()) continue;
       const Caja& r = p.Mide(k, an.rotulo[k]);
+      const Cuadrante c = CuadranteDe(ang[k]);
+      if (c == Cuadrante::Derecha || c == Cuadrante::Izquierda) {
+        const double vy = -R * std::cos(ang[k]);  // from the ring's centre, downwards
+        sobreLado = std::max(sobreLado, -vy + 0.55 * H + r.Sobre - 0.574 * H);
+        altoLado = std::max(altoLado, 0.574 * H + vy - 0.55 * H + r.Alto);
+      }
       const Lado lado = LadoDeBanda(BandaDe(grados(k)));
       const double extra = lado == Lado::Arriba || lado == Lado::Abajo ? r.Sobre + r.Alto + 0.3 * R
                                                                      : W(r) + 0.5 * R;
@@ -143,9 +152,9 @@ void Ring(Motor& m, std::string_view bloque, int caja) {
     // A label on the left keeps clear of the text before the ring.
     own.Adelanto = alcance[3];
     own.Ancho = 2 * rx + 0.05 * H + alcance[1];
-    own.Sobre = ry - 0.574 * H + 0.05 * H + alcance[0];
+    own.Sobre = std::max(ry - 0.574 * H + 0.05 * H + alcance[0], sobreLado);
     own.Eje = 0.574 * H;
-    own.Alto = ry + 0.574 * H + 0.05 * H + alcance[2];
+    own.Alto = std::max(ry + 0.574 * H + 0.05 * H + alcance[2], altoLado);
     p.Escribe(own, bloque);
     return;
   }

@@ -1,6 +1,7 @@
 #include "typeset/motor.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <span>
 
@@ -11,12 +12,43 @@ namespace ss {
 namespace {
 
 constexpr unsigned char kRaya = 150;   // what a "-" is drawn as: the minus sign
-constexpr unsigned char kGuion = '-';  // ... unless it joins two letters: a hyphen
+constexpr unsigned char kGuion = '-';  // ... unless it is a hyphen (EsGuion)
 
 // A letter of the text's one-byte encoding, accented ones included.
 bool EsLetra(unsigned char ch) {
   return (ch >= 'A' && ch <= 'Z') || (ch >= 'a' && ch <= 'z') ||
          (ch >= 192 && ch != 215 && ch != 247);
+}
+
+bool EsMinuscula(unsigned char ch) { return (ch >= 'a' && ch <= 'z') || (ch >= 223 && ch != 247); }
+
+// The words of mathematics that follow a minus sign like a name follows a
+// locant ("2-sin x", "1-cos x").
+bool EsFuncion(std::string_view palabra) {
+  static constexpr std::string_view kFunciones[] = {
+      "sin", "cos", "tan", "cot", "sec", "csc", "sen", "tg", "ctg", "log", "lg", "ln", "exp",
+      "sinh", "cosh", "tanh", "arcsin", "arccos", "arctan", "max", "min", "lim", "det", "mod"};
+  for (std::string_view f : kFunciones)
+    if (palabra == f) return true;
+  return false;
+}
+
+// Whether the "-" at i is a hyphen, not the minus sign that also draws the
+// bonds of a chain ("CH_3-CH_2-Cl"): inside a word ("acid-base", "N-methyl"),
+// and between a locant and a name ("2-methylpropane", "propan-2-ol",
+// "buta-1,3-diene"), but not before or after a lone letter ("2-x", "x-2").
+bool EsGuion(std::string_view t, std::size_t i) {
+  if (i == 0 || i + 1 >= t.size()) return false;
+  const auto c = [&](std::size_t k) { return static_cast<unsigned char>(t[k]); };
+  if (EsLetra(c(i - 1)) && EsMinuscula(c(i + 1))) return true;
+  // An italic locant comes next: "N-methyl-N-propylamine", "m-xylene".
+  if (t.substr(i + 1, 3) == "&+I" && (EsLetra(c(i - 1)) || std::isdigit(c(i - 1)))) return true;
+  std::size_t fin = i + 1;
+  while (fin < t.size() && EsMinuscula(c(fin))) ++fin;
+  if (std::isdigit(c(i - 1)) && fin - i - 1 >= 2 && !EsFuncion(t.substr(i + 1, fin - i - 1))) return true;
+  std::size_t inicio = i;
+  while (inicio > 0 && EsMinuscula(c(inicio - 1))) --inicio;
+  return std::isdigit(c(i + 1)) && i - inicio >= 3 && !EsFuncion(t.substr(inicio, i - inicio));
 }
 
 // Vertical shift of "+", the dash and "=" as a fraction of H, by size class.
@@ -412,10 +444,7 @@ std::string Motor::InterpretaTexto(std::string_view texto) {
         ++p;
       }
     } else if (ch == '-') {
-      const bool entreLetras = i > 0 && i + 1 < n &&
-                               EsLetra(static_cast<unsigned char>(texto[i - 1])) &&
-                               EsLetra(static_cast<unsigned char>(texto[i + 1]));
-      caracter(entreLetras ? kGuion : kRaya);
+      caracter(EsGuion(texto, i) ? kGuion : kRaya);
     } else {
       caracter(static_cast<unsigned char>(ch));
     }

@@ -38,7 +38,8 @@ TEST(ModulosQuimica, EveryModuleAnswersEveryNumberWithTextNeverAFault) {
       GeneraProblema(g, mod->nombre, command, st, so);
       EXPECT_FALSE(st.empty()) << mod->nombre << " " << n;
       EXPECT_EQ(st.find("<ERROR>"), std::string::npos) << st;
-      EXPECT_NE(st.find(ZeroPadCut(n, 3)), std::string::npos) << st;
+      // A number without a routine says so, naming the command.
+      if (st.starts_with("<")) EXPECT_NE(st.find(ZeroPadCut(n, 3)), std::string::npos) << st;
     }
   }
 }

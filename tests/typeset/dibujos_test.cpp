@@ -232,7 +232,7 @@ TEST(Bonds, UpAndDownFromTheAtomWithTheChainGoingOn) {
   EXPECT_DOUBLE_EQ(b.Ancho, 122);
   EXPECT_DOUBLE_EQ(b.Adelanto, 0);
   std::vector<test::Trazo> t = l.c.trazos;
-  ASSERT_EQ(l.c.Texto(), "CH3CHH-CH3");
+  ASSERT_EQ(l.c.Texto(), "CH3CHH\x96" "CH3");  // the bond of the chain is the dash
   EXPECT_DOUBLE_EQ(t[0].x, 1);  // the atom
   EXPECT_DOUBLE_EQ(t[3].x, 1);  // "C" of the group up, right over the atom
   EXPECT_DOUBLE_EQ(t[1].x + 121 + 80, t[3].x - 1) << "H and the small 3 end where C starts";

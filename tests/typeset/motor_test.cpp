@@ -51,7 +51,12 @@ TEST(InlineWidths, ScriptsOperatorsHyphensAndSoftHyphens) {
       {"A^2", kLetra + 80, kH},            // a superscript leaves the height alone
       {"a+b", 2 * kLetra + kOperador, kH},  // operators take side spacing
       {"2-b", 2 * kLetra + kOperador, kH},  // a minus is an operator
-      {"a-b", 3 * kLetra, kH},              // between letters it is a plain hyphen
+      {"a-b", 3 * kLetra, kH},              // before a small letter it is a plain hyphen
+      {"CH-CH", 4 * kLetra + kOperador, kH},  // a bond of a chain is the dash
+      {"2-ol", 4 * kLetra, kH},             // a locant takes a hyphen, as in "propan-2-ol"
+      {"pent-1", 6 * kLetra, kH},
+      {"x-2", 2 * kLetra + kOperador, kH},  // a lone letter is mathematics
+      {"1-cos", 4 * kLetra + kOperador, kH},
       {"ab&_cd", 4 * kLetra + 120, kH},    // the hyphen is measured even where it is not drawn
       {"&Q", 480, kH}, {"C&=C", 2 * kLetra + 360, kH},  // four and three blanks wide
       {"1&E-3", kLetra + 360 + 160, kH},   // "x10" and a small exponent (the dash and 3)
