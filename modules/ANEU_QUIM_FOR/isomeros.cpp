@@ -287,8 +287,8 @@ void Generador11(GenContext& g) {
 namespace {
 
 // The groups that fill the places of the structures: ZZ and WW a group with
-// one bond, YY an atom with two. A leading blank keeps a narrow letter in line
-// with the others in a chain.
+// one bond, YY an atom with two. A leading blank marks a lone narrow letter;
+// it is dropped where the group is written.
 std::string_view GrupoZZ(int r) {
   static constexpr std::array<std::string_view, 11> z = {"OH", "OH", "NH_2", "NH_2", "_ F", "_ F",
                                                          "Cl", "Cl", "Br",   " I",   "SH"};
@@ -300,6 +300,11 @@ std::string_view GrupoWW(int r) {
   return w[static_cast<std::size_t>(r - 1)];
 }
 
+std::string_view Limpio(std::string_view grupo) {
+  if (grupo.starts_with("_ ")) grupo.remove_prefix(2);
+  return Trim(grupo);
+}
+
 // A group written so that its bond meets the atom that carries it: at the
 // start of a chain the hydrogens come first ("HO-CH_2"), over a bond they
 // hang to the left of it; a lone atom loses its leading blank.
@@ -308,14 +313,13 @@ std::string Orientado(std::string_view grupo, bool enRotulo) {
       {"OH", "HO", "#LP(H#LP)O"}, {"NH_2", "H_2N", "#LP(H_2#LP)N"}, {"SH", "HS", "#LP(H#LP)S"}}};
   for (const auto& c : con)
     if (grupo == c[0]) return std::string(enRotulo ? c[2] : c[1]);
-  if (grupo.starts_with("_ ")) grupo.remove_prefix(2);
-  return std::string(Trim(grupo));
+  return std::string(Limpio(grupo));
 }
 
 void Rellena(std::string& t, std::string_view lugar, std::string_view grupo) {
   if (t.starts_with(lugar)) t.replace(0, lugar.size(), Orientado(grupo, false));
   ReplaceAll(t, "(" + std::string(lugar), "(" + Orientado(grupo, true));
-  ReplaceAll(t, lugar, grupo);
+  ReplaceAll(t, lugar, Limpio(grupo));
 }
 
 }  // namespace
