@@ -1,5 +1,4 @@
-// Editing a worksheet: the selection, the clipboard text, every command, and
-// the one step of undo and redo.
+// Editing a worksheet: selection, clipboard text, the commands, one step of undo and redo.
 #include "worksheet/edicion.h"
 
 #include <gtest/gtest.h>
@@ -9,17 +8,14 @@
 namespace ss {
 namespace {
 
-using test::Banco;
-
-// A worksheet of n problems named "P1".."Pn" (their statements), laid out.
-struct Hoja : Banco {
+// A laid-out worksheet of n problems whose statements are "P1".."Pn".
+struct Hoja : test::Banco {
   explicit Hoja(int n, int possol = 0) : Banco(possol) {
     for (int i = 1; i <= n; ++i) Agrega("P" + std::to_string(i), "S" + std::to_string(i));
     ArmarBloques(s, 1);
     doc.ruta = "/w/sheet.col";
   }
-  // Selects the strip of problem i as a click would (0: nothing selected).
-  void Elige(int i) {
+  void Elige(int i) {  // selects problem i's strip as a click would; 0 selects nothing
     doc.marcas.clear();
     for (std::size_t b = 0; b < doc.bloques.size(); ++b)
       doc.marcas.push_back(MarcaPagina{0, 0, doc.bloques[b].Problema == i && i > 0, static_cast<int>(b + 1)});
@@ -31,51 +27,48 @@ struct Hoja : Banco {
   }
 };
 
+Problema Otro() { return Problema{"ANEU_QUIM_TER", 1, 0, 0, 0, 0, 0, "X", "SX"}; }
+
 TEST(MoverProblema, MovesWithinTheWorksheetOnly) {
-  const struct { int desde, hasta; bool movido; const char* orden; } casos[] = {
-      {2, 4, true, "P1 P3 P4 P2 P5"}, {4, 1, true, "P4 P1 P2 P3 P5"}, {5, 1, true, "P5 P1 P2 P3 P4"},
-      {1, 5, true, "P2 P3 P4 P5 P1"}, {3, 3, false, "P1 P2 P3 P4 P5"}, {1, 0, false, "P1 P2 P3 P4 P5"},
-      {5, 6, false, "P1 P2 P3 P4 P5"}, {0, 2, false, "P1 P2 P3 P4 P5"},
+  const struct { int desde, hasta; const char* orden; } casos[] = {
+      {2, 4, "P1 P3 P4 P2 P5"}, {5, 1, "P5 P1 P2 P3 P4"}, {1, 5, "P2 P3 P4 P5 P1"}, {3, 3, nullptr},
+      {1, 0, nullptr},          {5, 6, nullptr},          {0, 2, nullptr},
   };
   for (const auto& c : casos) {
     Hoja h(5);
-    EXPECT_EQ(MoverProblema(h.col(), c.desde, c.hasta), c.movido) << c.desde << "->" << c.hasta;
-    EXPECT_EQ(h.Orden(), c.orden) << c.desde << "->" << c.hasta;
+    EXPECT_EQ(MoverProblema(h.col(), c.desde, c.hasta), c.orden != nullptr) << c.desde << "->" << c.hasta;
+    EXPECT_EQ(h.Orden(), c.orden ? c.orden : "P1 P2 P3 P4 P5") << c.desde << "->" << c.hasta;
   }
 }
 
-// Each command on a small worksheet: the order after it, the undo step's
-// words, and the page hint it leaves (the current page).
+// The order after each command, the words of its undo step, and the selection dropped by a rebuild.
 TEST(Comandos, EachChangesTheListAsToldAndStoresItsUndoStep) {
   using Cmd = std::function<bool(Sesion&)>;
-  const struct { const char* nombre; int n, elegido; Cmd cmd; bool hecho; const char* orden; const char* accion; } casos[] = {
-      {"delete middle", 3, 2, Borrar, true, "P1 P3", "Delete Problem"},
-      {"delete first", 3, 1, Borrar, true, "P2 P3", "Delete Problem"},
-      {"delete last", 3, 3, Borrar, true, "P1 P2", "Delete Problem"},
-      {"delete none", 3, 0, Borrar, false, "P1 P2 P3", ""},
-      {"to start", 4, 3, [](Sesion& s) { return Mover(s, 0); }, true, "P3 P1 P2 P4", "Move to Start"},
-      {"to end", 4, 2, [](Sesion& s) { return Mover(s, 1); }, true, "P1 P3 P4 P2", "Move to End"},
-      {"up", 4, 2, [](Sesion& s) { return Mover(s, 2); }, true, "P2 P1 P3 P4", "Move Up"},
-      {"down", 4, 2, [](Sesion& s) { return Mover(s, 3); }, true, "P1 P3 P2 P4", "Move Down"},
-      // Called directly, a move that cannot happen still leaves its undo step.
-      {"up first", 4, 1, [](Sesion& s) { return Mover(s, 2); }, false, "P1 P2 P3 P4", "Move Up"},
-      {"down last", 4, 4, [](Sesion& s) { return Mover(s, 3); }, false, "P1 P2 P3 P4", "Move Down"},
-      {"same place", 2, 1, [](Sesion& s) { return PonPosicionSoluciones(s, 0); }, false, "P1 P2", ""},
-      {"solutions", 2, 0, [](Sesion& s) { return PonPosicionSoluciones(s, 2); }, true, "P1 P2", "Solutions Together at the End"},
+  auto mover = [](int a) { return Cmd([a](Sesion& s) { return Mover(s, a); }); };
+  const struct { int n, elegido; Cmd cmd; bool hecho; const char* orden; const char* accion; } casos[] = {
+      {3, 2, Borrar, true, "P1 P3", "Delete Problem"},
+      {3, 1, Borrar, true, "P2 P3", "Delete Problem"},
+      {3, 3, Borrar, true, "P1 P2", "Delete Problem"},
+      {3, 0, Borrar, false, "P1 P2 P3", ""},
+      {4, 3, mover(0), true, "P3 P1 P2 P4", "Move to Start"},
+      {4, 2, mover(1), true, "P1 P3 P4 P2", "Move to End"},
+      {4, 2, mover(2), true, "P2 P1 P3 P4", "Move Up"},
+      {4, 2, mover(3), true, "P1 P3 P2 P4", "Move Down"},
+      {4, 1, mover(2), false, "P1 P2 P3 P4", "Move Up"},  // impossible, yet it leaves its undo step
+      {4, 4, mover(3), false, "P1 P2 P3 P4", "Move Down"},
+      {2, 1, [](Sesion& s) { return PonPosicionSoluciones(s, 0); }, false, "P1 P2", ""},
+      {2, 0, [](Sesion& s) { return PonPosicionSoluciones(s, 2); }, true, "P1 P2", "Solutions Together at the End"},
   };
   for (const auto& c : casos) {
-    SCOPED_TRACE(c.nombre);
+    SCOPED_TRACE(testing::Message() << c.accion << " " << c.elegido << "/" << c.n);
     Hoja h(c.n);
     h.Elige(c.elegido);
-    const Coleccion antes = h.col();
     EXPECT_EQ(c.cmd(h.s), c.hecho);
     EXPECT_EQ(h.Orden(), c.orden);
     EXPECT_EQ(h.doc.deshacerValido, *c.accion != 0);
     EXPECT_EQ(h.doc.accionDeshacer, c.accion);
-    if (h.doc.deshacerValido) {
-      EXPECT_EQ(h.doc.deshacer.problemas.size(), antes.problemas.size());
-    }
-    EXPECT_EQ(h.doc.marcas.size(), c.hecho ? 0u : h.doc.marcas.size()) << "a rebuild drops the selection";
+    if (c.hecho) EXPECT_TRUE(h.doc.marcas.empty()) << "a rebuild drops the selection";
+    if (h.doc.deshacerValido) EXPECT_EQ((Deshacer(h.s), h.Orden()), Hoja(c.n).Orden()) << "undo brings the order back";
   }
 }
 
@@ -83,9 +76,7 @@ TEST(Comandos, DeletingTheLastProblemLeavesNoWorksheetAndNothingToUndo) {
   Hoja h(1);
   h.Elige(1);
   EXPECT_TRUE(Borrar(h.s));
-  EXPECT_TRUE(h.col().problemas.empty());
-  EXPECT_TRUE(h.doc.ruta.isEmpty());
-  EXPECT_FALSE(h.doc.deshacerValido);
+  EXPECT_TRUE(h.col().problemas.empty() && h.doc.ruta.isEmpty() && !h.doc.deshacerValido);
   EXPECT_EQ(h.pl.estados.back(), false);
   Deshacer(h.s);
   EXPECT_TRUE(h.col().problemas.empty());
@@ -101,9 +92,7 @@ TEST(Comandos, ACommandWaitsForNoJobAndForOneSelection) {
   ++h.doc.AppBusy;
   EXPECT_FALSE(Borrar(h.s) || RecrearTodo(h.s) || PonPosicionSoluciones(h.s, 3));
   EXPECT_EQ(Pegar(h.s, TextoPortapapeles(h.col().problemas[0])), Pegado::Nada);
-  --h.doc.AppBusy;
-  EXPECT_EQ(h.Orden(), "P1 P2 P3");
-  EXPECT_FALSE(h.doc.deshacerValido);
+  EXPECT_TRUE(h.Orden() == "P1 P2 P3" && !h.doc.deshacerValido);
 }
 
 TEST(Portapapeles, AProblemGoesThroughItsTextUnchanged) {
@@ -119,17 +108,13 @@ TEST(Portapapeles, AProblemGoesThroughItsTextUnchanged) {
 
 TEST(Portapapeles, AnyOtherTextIsNoProblemAndPastesNothing) {
   const std::string bien = TextoPortapapeles(Problema{"ANEU_QUIM_DIS", 9, 1, 1, 1, 1, 1, "E", "S"});
-  const std::string etiqueta = "GENPROB:NPROB=001:";
+  const std::string tag = "GENPROB:NPROB=001:", cmd = std::string(80, ' ') + "0091234567060402";
   std::string letras = bien;
-  letras[18 + 80 + 5] = 'x';
+  letras[18 + 80 + 5] = 'x';  // a letter among the command's digits
   const std::string malos[] = {
-      "", "hello", etiqueta, etiqueta + std::string(95, ' '),  // the tag alone, or too short
-      bien.substr(0, bien.size() - 5),                             // no closing "#SOL)"
-      etiqueta + std::string(80, 'M') + "0091234567060402#ENU(E#ENU)S#SOL)",  // no "#SOL("
-      letras,                                                                   // letters in the command
-      etiqueta + std::string(80, ' ') + "0091234567060402#ENU(a#SOL(b#ENU)#SOL(c#SOL)",  // "#SOL(" in the statement
-      etiqueta + std::string(1 << 20, 'x'),                                     // 1 MB of anything
-      "genprob:NPROB=001:" + bien.substr(18),
+      "", "hello", tag, tag + std::string(95, ' '), bien.substr(0, bien.size() - 5),  // cut short
+      tag + cmd + "#ENU(E#ENU)S#SOL)", letras, tag + cmd + "#ENU(a#SOL(b#ENU)#SOL(c#SOL)",
+      tag + std::string(1 << 20, 'x'), "genprob:NPROB=001:" + bien.substr(18),
   };
   for (const std::string& t : malos) {
     SCOPED_TRACE(t.substr(0, 60));
@@ -137,28 +122,23 @@ TEST(Portapapeles, AnyOtherTextIsNoProblemAndPastesNothing) {
     Hoja h(3);
     h.Elige(2);
     EXPECT_EQ(Pegar(h.s, t), Pegado::NoEsProblema);
-    EXPECT_EQ(h.Orden(), "P1 P2 P3");
-    EXPECT_FALSE(h.doc.deshacerValido);
+    EXPECT_TRUE(h.Orden() == "P1 P2 P3" && !h.doc.deshacerValido);
   }
 }
 
 TEST(Pegar, GoesBeforeTheSelectionOrToTheFrontAndNeverPast500) {
-  const std::string otro = TextoPortapapeles(Problema{"ANEU_QUIM_TER", 1, 0, 0, 0, 0, 0, "X", "SX"});
   for (const auto& [elegido, orden] : {std::pair{0, "X P1 P2 P3"}, {2, "P1 X P2 P3"}, {3, "P1 P2 X P3"}}) {
     Hoja h(3);
     h.Elige(elegido);
-    EXPECT_EQ(Pegar(h.s, otro), Pegado::Hecho);
+    EXPECT_EQ(Pegar(h.s, TextoPortapapeles(Otro())), Pegado::Hecho);
     EXPECT_EQ(h.Orden(), orden);
-    EXPECT_EQ(h.doc.accionDeshacer, "Paste");
-    EXPECT_EQ(h.doc.paginaActual, 1);
+    EXPECT_TRUE(h.doc.accionDeshacer == "Paste" && h.doc.paginaActual == 1);
   }
   Hoja llena(kMaxProblemas);
   llena.Elige(250);
-  EXPECT_EQ(Pegar(llena.s, otro), Pegado::Nada);
-  EXPECT_FALSE(PegarSimilar(llena.s));
-  EXPECT_FALSE(Estado(llena.doc).pegarSimilar);
+  EXPECT_EQ(Pegar(llena.s, TextoPortapapeles(Otro())), Pegado::Nada);
+  EXPECT_FALSE(PegarSimilar(llena.s) || Estado(llena.doc).pegarSimilar || llena.doc.deshacerValido);
   EXPECT_EQ(llena.col().problemas.size(), 500u);
-  EXPECT_FALSE(llena.doc.deshacerValido);
 }
 
 TEST(Recrear, NewNumbersForTheOneProblemOrItsCloneBeforeIt) {
@@ -172,15 +152,13 @@ TEST(Recrear, NewNumbersForTheOneProblemOrItsCloneBeforeIt) {
   EXPECT_EQ(std::tie(clon.Modulo, clon.Rutina), std::tie(modelo.Modulo, modelo.Rutina));
   EXPECT_NE(std::tie(clon.Semilla, clon.NumVariante), std::tie(modelo.Semilla, modelo.NumVariante));
   EXPECT_NE(clon.Enunciado, "P2");  // made anew by its module
-  EXPECT_TRUE(h.doc.ruta.isEmpty() && h.doc.Modificada);
-  EXPECT_EQ(h.doc.accionDeshacer, "Insert a Similar Problem");
+  EXPECT_TRUE(h.doc.ruta.isEmpty() && h.doc.Modificada && h.doc.accionDeshacer == "Insert a Similar Problem");
 
   Hoja r(3);
   r.Elige(3);
   ASSERT_TRUE(RecrearEste(r.s));
   EXPECT_EQ(r.col().problemas.size(), 3u);
-  EXPECT_EQ(r.col().problemas[0].Enunciado, "P1");
-  EXPECT_NE(r.col().problemas[2].Enunciado, "P3");
+  EXPECT_TRUE(r.col().problemas[0].Enunciado == "P1" && r.col().problemas[2].Enunciado != "P3");
   EXPECT_EQ(r.doc.accionDeshacer, "Re-create This Problem");
 }
 
@@ -190,45 +168,34 @@ TEST(Deshacer, OneStepEachWayWithTheDoubleBlankOfTheCaptions) {
   Borrar(h.s);
   Deshacer(h.s);
   EXPECT_EQ(h.Orden(), "P1 P2 P3");
-  EXPECT_FALSE(h.doc.deshacerValido);
-  EXPECT_TRUE(h.doc.rehacerValido);
+  EXPECT_TRUE(!h.doc.deshacerValido && h.doc.rehacerValido);
   EXPECT_EQ(h.doc.accionRehacer, " Delete Problem");
   Deshacer(h.s);  // undo right after undo does nothing
   EXPECT_EQ(h.Orden(), "P1 P2 P3");
   Rehacer(h.s);
-  EXPECT_EQ(h.Orden(), "P1 P3");
-  EXPECT_FALSE(h.doc.rehacerValido);
-  EXPECT_EQ(h.doc.accionDeshacer, " Delete Problem");
+  EXPECT_TRUE(h.Orden() == "P1 P3" && !h.doc.rehacerValido && h.doc.accionDeshacer == " Delete Problem");
   Deshacer(h.s);
   EXPECT_EQ(h.doc.accionRehacer, " Delete Problem") << "the blanks do not grow";
-  // A new change forgets the redo step.
   h.Elige(1);
-  Mover(h.s, 3);
-  EXPECT_FALSE(h.doc.rehacerValido);
-  EXPECT_EQ(h.Orden(), "P2 P1 P3");
+  Mover(h.s, 3);  // a new change forgets the redo step
+  EXPECT_TRUE(h.Orden() == "P2 P1 P3" && !h.doc.rehacerValido);
 }
 
 TEST(Deshacer, UndoOfANewBringsTheWorksheetBeforeBackWithoutItsFile) {
-  Hoja h(2);
-  h.col().cab.TITULO = "Old";
-  SetUNDO(h.s, "File_new");
-  h.col().cab.TITULO = "New";
-  h.col().problemas = {Problema{"ANEU_QUIM_TER", 1, 0, 0, 0, 0, 0, "N1", ""}};
-  CrearColeccion(h.s, 1);
-  EXPECT_TRUE(h.doc.ruta.isEmpty());
-  Deshacer(h.s);
-  EXPECT_EQ(h.col().cab.TITULO, "Old");
-  EXPECT_EQ(h.Orden(), "P1 P2");
-  EXPECT_TRUE(h.doc.ruta.isEmpty());
-
-  // With no worksheet before, undo leaves the window empty.
-  Hoja vacia(0);
-  SetUNDO(vacia.s, "File_new");
-  vacia.col().problemas = {Problema{"ANEU_QUIM_TER", 1, 0, 0, 0, 0, 0, "N1", ""}};
-  CrearColeccion(vacia.s, 1);
-  Deshacer(vacia.s);
-  EXPECT_TRUE(vacia.col().problemas.empty());
-  EXPECT_FALSE(vacia.doc.deshacerValido || vacia.doc.rehacerValido);
+  for (int antes : {2, 0}) {  // with no worksheet before, undo leaves the window empty
+    Hoja h(antes);
+    h.col().cab.TITULO = "Old";
+    SetUNDO(h.s, "File_new");
+    h.col().cab.TITULO = "New";
+    h.col().problemas = {Problema{"ANEU_QUIM_TER", 1, 0, 0, 0, 0, 0, "N1", ""}};
+    CrearColeccion(h.s, 1);
+    EXPECT_TRUE(h.doc.ruta.isEmpty());
+    Deshacer(h.s);
+    EXPECT_EQ(h.Orden(), antes ? "P1 P2" : "");
+    EXPECT_TRUE(h.doc.ruta.isEmpty());
+    if (antes) EXPECT_EQ(h.col().cab.TITULO, "Old");
+    else EXPECT_FALSE(h.doc.deshacerValido || h.doc.rehacerValido);
+  }
 }
 
 TEST(Seleccion, AClickSelectsOneStripOrClearsAndTheMenuFollows) {
@@ -238,14 +205,12 @@ TEST(Seleccion, AClickSelectsOneStripOrClearsAndTheMenuFollows) {
   EXPECT_EQ(ProblemaSeleccionado(h.doc), 1);
   EXPECT_FALSE(Estado(h.doc).alPrincipio);
   EXPECT_TRUE(ClicEnPagina(h.doc, 2000, 3500));
-  EXPECT_EQ(ProblemaSeleccionado(h.doc), 3);
-  EXPECT_EQ(Seleccionadas(h.doc), 1);
+  EXPECT_TRUE(ProblemaSeleccionado(h.doc) == 3 && Seleccionadas(h.doc) == 1);
   EXPECT_TRUE(Estado(h.doc).alPrincipio && !Estado(h.doc).alFinal);
   EXPECT_FALSE(ClicEnPagina(h.doc, 2000, 3050));  // between strips: nothing changes
   EXPECT_EQ(ProblemaSeleccionado(h.doc), 3);
-  EXPECT_TRUE(ClicEnPagina(h.doc, 2000, 4000));   // the selected strip again: cleared
-  EXPECT_EQ(Seleccionadas(h.doc), 0);
-  EXPECT_FALSE(Estado(h.doc).sobreSeleccion);
+  EXPECT_TRUE(ClicEnPagina(h.doc, 2000, 4000));  // the selected strip again: cleared
+  EXPECT_TRUE(Seleccionadas(h.doc) == 0 && !Estado(h.doc).sobreSeleccion);
   ClicEnPagina(h.doc, 2000, 2500);
   EXPECT_TRUE(ClicEnPagina(h.doc, LimiteEdicion(), 2500));  // the right margin clears all
   EXPECT_EQ(Seleccionadas(h.doc), 0);
@@ -255,8 +220,7 @@ TEST(Seleccion, AGatheredSolutionStandsForTheProblemOfItsPlace) {
   Hoja h(3, 2);
   h.col().problemas[0].Solucion.clear();
   ArmarBloques(h.s, 1);
-  // Blocks: three statements, then the solutions of problems 2 and 3 as entries 1 and 2.
-  ASSERT_EQ(h.doc.bloques.size(), 5u);
+  ASSERT_EQ(h.doc.bloques.size(), 5u);  // three statements, then the solutions of 2 and 3
   h.doc.marcas = {{0, 10, true, 5}};
   EXPECT_EQ(ProblemaSeleccionado(h.doc), 2);
 }
