@@ -1,33 +1,25 @@
-// The acid-base lists and titrations read as a student reads them: species and salts judged by the tests' own
-// rules, reactions balanced, every titration answer worked again from the numbers the statement shows.
+// Acid-base lists and titrations read as a student reads them: items judged by the tests' own chemistry, reactions
+// balanced, every titration answer worked again from the numbers the statement shows.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <numeric>
 #include <set>
 
-#include "modules/modulos.h"
 #include "tests/modules/atomos.h"
 #include "tests/modules/dis_comun.h"
 
 namespace ss {
 namespace {
-
 using test::Texto;
 using Textos = std::vector<std::string>;
 
+// A whole problem: every placeholder filled, no negative or outsized number.
 test::Problema Genera(int gen, int seqB, int items, uint64_t semilla) {
-  GenContext g(&test::Textos(), Aleatorio(semilla * 7907 + static_cast<uint64_t>(seqB * 31 + gen)));
-  test::Problema p;
-  GeneraProblema(g, "ANEU_QUIM_EAB", ZeroPadCut(gen, 3) + "000" + ZeroPadCut(seqB, 4) + ZeroPadCut(items, 2) + "0301",
-                 p.st, p.so);
-  // A whole problem: every key found, every placeholder filled, no negative or outsized number.
-  EXPECT_TRUE(p.st.ends_with("&LF") && p.so.ends_with("&LF") &&
-              !std::regex_search(p.st + p.so, std::regex("%[A-Za-z0-9_]+%|ATEM__|<ERROR|nan|inf"))) << p.st << p.so;
+  const test::Problema p = test::GeneraEn("ANEU_QUIM_EAB", gen, seqB, items, semilla * 7907 + (seqB * 31 + gen));
+  EXPECT_TRUE(p.st.ends_with("&LF") && p.so.ends_with("&LF") && !std::regex_search(p.st + p.so, std::regex("nan|inf")));
   for (double x : test::Numeros(p.st + p.so)) EXPECT_TRUE(x >= 0 && x < 1000) << x << "\n" << p.st << p.so;
   return p;
 }
-
 // The non-empty pieces of a text between marks: its lines, or its items ("&SP=10:&+Ba)&-B x&SP=30:y" as {x, y}).
 Textos Partes(const std::string& t, const std::string& corte = "&LF") {
   Textos v;
@@ -37,21 +29,17 @@ Textos Partes(const std::string& t, const std::string& corte = "&LF") {
 }
 const std::string kItem = R"(&SP=\d+:(&\+B[a-z]\)&-B )?|&LF)";
 std::string Tras(const std::string& l) { return l.substr(l.find(':') + 1); }
-
 // An equation as the atom counter reads it: "&Q" as the arrow, "CH_3-NH_2" without its dash.
 std::string Ecuacion(std::string e) {
   ReplaceAll(e, "&Q", "&ars");
   return std::regex_replace(e, std::regex("-(?=[A-Z])"), "");
 }
 Textos Lado(const std::string& e, bool derecho) {
-  const std::size_t f = e.find("&ars");
-  return test::Formulas(derecho ? e.substr(f + 4) : e.substr(0, f));
+  return test::Formulas(derecho ? e.substr(e.find("&ars") + 4) : e.substr(0, e.find("&ars")));
 }
-// b is a with one proton more.
-bool UnProtonMas(const std::string& a, const std::string& b) {
+bool UnProtonMas(const std::string& a, const std::string& b) {  // b is a with one proton more
   test::Carga x = test::Especie(Ecuacion(a));
-  ++x.atomos["H"], ++x.carga;
-  return x == test::Especie(Ecuacion(b));
+  return ++x.atomos["H"], ++x.carga, x == test::Especie(Ecuacion(b));
 }
 // The protons a species gives: that of a carboxyl group, else the hydrogens written first.
 int ProtonesAcidos(const std::string& f) {
@@ -60,8 +48,7 @@ int ProtonesAcidos(const std::string& f) {
   return f.size() > 2 && f[1] == '_' ? f[2] - '0' : 1;
 }
 bool Hidroxido(const std::string& f) { return std::regex_match(f, std::regex("(Li|Na|K|Rb|Cs)OH")); }
-// It takes a proton: an anion, a lone pair on N, a hydroxide.
-bool TomaProton(const std::string& f) {
+bool TomaProton(const std::string& f) {  // an anion, a lone pair on N, a hydroxide
   const int q = test::Especie(Ecuacion(f)).carga;
   return q < 0 || (q == 0 && f.find("NH_") != std::string::npos) || Hidroxido(f);
 }
@@ -77,12 +64,11 @@ std::string Especie5(const std::string& item, const Textos& c) {
     const std::size_t a = c.at(2).find(marca), b = a + marca.size();
     EXPECT_EQ(a != std::string::npos, !Hidroxido(item) && (acido ? toma : da)) << c[2];
     if (a == std::string::npos) continue;
-    const std::string conj = c[2].substr(b, c[2].find(';', b) - b);
+    const std::string conj = c[2].substr(b, c[2].find(';', b) - b);  // one proton more or less
     EXPECT_TRUE(acido ? UnProtonMas(item, conj) : UnProtonMas(conj, item)) << c[2];
   }
   return item;
 }
-
 std::string Sal6(const std::string& item, const Textos& c) {
   static const std::map<std::string, int> iones = {{"K", 1}, {"Na", 1}, {"Ca", 2}, {"NH_4", 1}, {"I", -1}, {"Br", -1},
       {"Cl", -1}, {"NO_3", -1}, {"Se", -2}, {"NO_2", -1}, {"S", -2}, {"CO_3", -2}, {"PO_4", -3}};
@@ -108,9 +94,8 @@ std::string Sal6(const std::string& item, const Textos& c) {
   EXPECT_EQ(Lado(e, true).at(1), acida ? "H_3O^+" : "OH#SPB(L-#T)( #SPB)") << e;
   return item;
 }
-
+// The statement is the solution's reaction with one species blank; one reactant gives a proton to the other.
 std::string Reaccion7(const std::string& item, const Textos& c) {
-  // The statement is the solution's reaction with one species blank; one reactant gives a proton to the other.
   const std::size_t at = item.find("__________");
   if (at == std::string::npos) return ADD_FAILURE() << "no blank: " << item, item;
   EXPECT_EQ(std::string(item).replace(at, 10, c.at(0)), c.at(1));
@@ -124,18 +109,16 @@ std::string Reaccion7(const std::string& item, const Textos& c) {
   std::sort(r.begin(), r.end());
   return r[0] + r[1] + r[2] + r[3];  // a reaction and its reverse are one
 }
-
 TEST(AcidBaseLists, EveryItemIsRightByTheTestsOwnChemistry) {
   struct Lista { int gen, tope; std::size_t columnas, distintas; std::string (*comprueba)(const std::string&, const Textos&); };
   for (const Lista& l : {Lista{5, 12, 3, 66, Especie5}, {6, 27, 3, 29, Sal6}, {7, 18, 2, 0, Reaccion7}}) {
-    std::set<std::string> todas;
+    std::set<std::string> todas;  // over all seeds every row of a table comes up
     for (int semilla = 1; semilla <= 120; ++semilla) {
       SCOPED_TRACE(testing::Message() << "generator " << l.gen << ", seed " << semilla);
       const int items = semilla % 30;
       const test::Problema p = Genera(l.gen, semilla, items, semilla);
       Textos so = Partes(p.so), st = Partes(p.st, kItem);
-      st.erase(st.begin());  // the heading
-      // As many items as asked, within 2 and the generator's cap (and 26 letters).
+      st.erase(st.begin());  // the heading; as many items as asked, within 2 and the cap (and 26 letters)
       ASSERT_TRUE(so.size() == static_cast<std::size_t>(std::min({std::max(items, 2), 26, l.tope})) && st.size() == so.size())
           << p.st << p.so;
       std::set<std::string> vistas;
@@ -149,36 +132,28 @@ TEST(AcidBaseLists, EveryItemIsRightByTheTestsOwnChemistry) {
       }
       if (HasFailure()) return;
     }
-    // Over all seeds every row of a table comes up.
     EXPECT_TRUE(l.distintas ? todas.size() == l.distintas : todas.size() > 300) << l.gen << ": " << todas.size();
   }
 }
 
-// ---- Titrations: protons an acid gives to a strong base, or a base takes from a strong acid, counted from its
-// formula (hydroxides, carbonates, amines); phosphorous acid's third hydrogen is bound to phosphorus.
+// ---- Titrations: the protons an acid gives to a strong base, or a base takes from a strong acid, from its formula;
+// phosphorous acid's third hydrogen is bound to phosphorus.
 int Equivalentes(const std::string& f) {
   std::smatch m;
   if (std::regex_search(f, m, std::regex(R"(\(OH\)_(\d)$)"))) return std::stoi(m[1]);
   if (f.ends_with("OH") || f.ends_with("HCO_3") || (f.find("NH") != std::string::npos && f.find('O') == std::string::npos)) return 1;
   return f.ends_with("CO_3") || f == "H_3PO_3" ? 2 : ProtonesAcidos(f);
 }
-// The strongest solution of each that exists (mol/L); the others are all sold stronger than 0.8.
-double Tope(const std::string& f) {
+double Tope(const std::string& f) {  // the strongest solution of each that exists (mol/L)
   static const std::map<std::string, double> t = {{"C_6H_5COOH", 0.028}, {"Ca(OH)_2", 0.023}, {"Sr(OH)_2", 0.15},
       {"Ba(OH)_2", 0.23}, {"C_6H_5NH_2", 0.39}, {"HNO_2", 0.2}, {"HClO", 0.2}, {"H_2C_2O_4", 1.0}};
   return t.count(f) ? t.at(f) : 0.8;
 }
-double MasaMolar(const std::string& f) {
-  static const std::map<std::string, double> A = {{"H", 1.008}, {"C", 12.011}, {"N", 14.007}, {"O", 15.999},
-      {"Na", 22.99}, {"P", 30.974}, {"S", 32.06}, {"Cl", 35.45}, {"K", 39.098}, {"Ca", 40.078}};
-  double M = 0;
-  for (const auto& [e, n] : test::Especie(f).atomos) M += n * A.at(e);
-  return M;
-}
-// Ka or Kb of the weak species.
+const std::map<std::string, double> kMasas = {{"H", 1.008}, {"C", 12.011}, {"N", 14.007}, {"O", 15.999},
+    {"Na", 22.99}, {"P", 30.974}, {"S", 32.06}, {"Cl", 35.45}, {"K", 39.098}, {"Ca", 40.078}};
 const std::map<std::string, double> kK = {{"CH_3COOH", 1.8e-5}, {"HF", 7e-4}, {"HNO_2", 4.5e-4}, {"HCOOH", 1.8e-4},
     {"C_6H_5COOH", 6.6e-5}, {"HClO", 3e-8}, {"HCN", 4e-10}, {"CH_3(CH_2)_2COOH", 1.5e-5}, {"NH_3", 1.77e-5},
-    {"CH_3NH_2", 4.37e-4}, {"C_6H_5NH_2", 3.8e-10}, {"C_2H_5NH_2", 6.41e-4}};
+    {"CH_3NH_2", 4.37e-4}, {"C_6H_5NH_2", 3.8e-10}, {"C_2H_5NH_2", 6.41e-4}};  // Ka or Kb
 // The answers of a line (every `cada`-th one an answer to four figures, the others data echoed).
 void EsperaRespuestas(const std::string& linea, const std::vector<double>& esperadas, std::size_t cada = 1) {
   const std::vector<test::Mostrado> dadas = test::Respuestas(linea);
@@ -188,16 +163,14 @@ void EsperaRespuestas(const std::string& linea, const std::vector<double>& esper
     EXPECT_TRUE((k + 1) % cada || dadas[k].media <= 5.01e-4 * std::fabs(dadas[k].valor)) << linea;
   }
 }
-// Balanced, the titrant taking the species' equivalents.
 void EsperaNeutralizacion(const std::string& e, const std::string& f, const std::string& titulante) {
   test::EsperaAjustada(e);
   EXPECT_TRUE(test::Coeficiente(e, f) && test::Coeficiente(e, titulante) == Equivalentes(f) * test::Coeficiente(e, f)) << e;
 }
-// Within a range, allowing for the four figures of a volume shown; a burette reads 8-60 mL, a titrant is 0.03-0.25 M.
-void EsperaEntre(double x, double a, double b) {
+void EsperaEntre(double x, double a, double b) {  // allowing for the four figures of a volume shown
   EXPECT_TRUE(x >= a * (1 - 5e-4) && x <= b * (1 + 5e-4)) << x << " not in " << a << "-" << b;
 }
-
+// A burette reads 8-60 mL, a titrant is 0.03-0.25 M.
 void CompruebaValoracion(int forma, const test::Problema& p) {
   const Textos st = Partes(p.st), so = Partes(p.so);
   ASSERT_TRUE(!st.empty() && so.size() >= (forma >= 10 ? 1u : 2u)) << p.so;
@@ -205,27 +178,26 @@ void CompruebaValoracion(int forma, const test::Problema& p) {
   if (forma <= 2) {  // three acids by NaOH (1), three bases by HCl (2)
     const double ct = d.En("mol/L");
     ASSERT_TRUE(st.size() == 4 && so.size() == 3);
-    EsperaEntre(ct, 0.03, 0.25);
     std::set<std::string> vistas;
     for (std::size_t i = 0; i < 3; ++i) {
       const std::string item = Partes(st[i + 1], kItem).at(0), f = item.substr(item.rfind(' ') + 1);
       const test::Datos di(item);
       const double v = di.En("mL"), c = di.En("mol/L"), V = Equivalentes(f) * c * v / ct;
       EXPECT_TRUE(vistas.insert(f).second) << f;
-      EsperaEntre(v, 15, 50), EsperaEntre(c, 0.01, Tope(f)), EsperaEntre(V, 10, 60);
+      EsperaEntre(v, 15, 50), EsperaEntre(c, 0.01, Tope(f)), EsperaEntre(V, 10, 60), EsperaEntre(ct, 0.03, 0.25);
       const Textos col = Partes(so[i], kItem);
       EsperaRespuestas(col.at(0), {V}), EsperaNeutralizacion(col.at(1), f, forma == 1 ? "NaOH" : "HCl");
     }
-  } else if (forma <= 7) {  // one sample, one titrant: vinegar (3), a weighed carbonate by HCl (4) or acid by
-                            // NaOH (5), an unknown monoprotic acid HA (6), commercial NaOH by an acid (7)
+  } else if (forma <= 7) {  // vinegar (3), a weighed carbonate by HCl (4) or acid by NaOH (5), an unknown
+                            // monoprotic acid HA (6), commercial NaOH by an acid (7)
     const std::string titulante = forma == 4 ? "HCl" : "NaOH", e = Tras(so[1]).substr(0, Tras(so[1]).find(';'));
-    const Textos r = Lado(e, false);
-    const std::string f = r.at(r[0] == titulante);
+    const std::string f = Lado(e, false).at(Lado(e, false).at(0) == titulante);
     const double m = d.En("g"), M = d.En("g/mol"), v = d.En("mL", forma == 3), c = d.En("mol/L"), q = Equivalentes(f);
     const double x = forma == 3 ? c * v / d.En("mL") : forma == 6 ? m / (c * v / 1000)
                    : forma == 7 ? q * c * v / 1000 * M / m * 100 : q * m / M / (v / 1000);
     EXPECT_TRUE(forma == 6 || (st[0].find(f) != std::string::npos &&
-                               std::fabs(M - MasaMolar(forma == 7 ? "NaOH" : f)) < 0.05)) << f << " " << M;
+                               std::fabs(M - test::MasaMolar(test::Formula(forma == 7 ? "NaOH" : f), kMasas)) < 0.05))
+        << f << " " << M;
     EsperaEntre(v, 8, 60), EsperaEntre(forma == 4 || forma == 5 ? x : c, 0.03, 0.25);
     const double den = d.En("g/mL"), pct = x * M / (10 * den);  // the vinegar's acetic acid, 4-8 %
     if (forma == 3) EsperaEntre(pct, 4, 8), EsperaEntre(den, 0.998 + 0.00145 * pct, 1.002 + 0.00145 * pct);
@@ -263,10 +235,8 @@ void CompruebaValoracion(int forma, const test::Problema& p) {
     EsperaRespuestas(so[0], esperadas, 2);
   }
 }
-
-// Every form of the titrations over 200 seeds (the form is one more than the variant modulo 11).
 TEST(AcidBaseTitrations, EveryFormOver200SeedsFollowsFromTheStatement) {
-  for (int forma = 1; forma <= 11; ++forma)
+  for (int forma = 1; forma <= 11; ++forma)  // the form is one more than the variant modulo 11
     for (int semilla = 1; semilla <= 200; ++semilla) {
       SCOPED_TRACE(testing::Message() << "form " << forma << ", seed " << semilla);
       CompruebaValoracion(forma, Genera(8, forma - 1 + 11 * (semilla % 40), semilla % 30, semilla + 1000));

@@ -1,7 +1,7 @@
-// The unit conversion exercises: every answer recomputed from the data its
-// statement shows, with unit sizes worked out here from the metric prefixes,
-// the temperature scales and the legal definitions of the imperial units.
+// Every answer recomputed from the data its statement shows, with unit sizes from the metric
+// prefixes, the temperature scales and the legal definitions of the imperial units.
 #include "problems/conversiones.h"
+
 #include <gtest/gtest.h>
 #include <random>
 #include <set>
@@ -26,10 +26,7 @@ int CuentaItems(const std::string& m) {
   return n;
 }
 
-struct Cantidad {
-  double valor;
-  std::string unidad;
-};
+struct Cantidad { double valor; std::string unidad; };
 
 // "0&.45& km  +  20& m  into  cm": the quantities, and the unit after the last blank.
 std::vector<Cantidad> Datos(const std::string& linea, std::string* destino = nullptr) {
@@ -41,11 +38,7 @@ std::vector<Cantidad> Datos(const std::string& linea, std::string* destino = nul
   return out;
 }
 
-// A unit's magnitude and its size in m, m^2, m^3 or g.
-struct Medida {
-  std::string magnitud;
-  double tamano = 0;
-};
+struct Medida { std::string magnitud; double tamano = 0; };  // the size in m, m^2, m^3 or g
 
 Medida Unidad(std::string u) {
   static const std::map<std::string, Medida> fijas = {
@@ -71,13 +64,7 @@ double DesdeCelsius(double c, const std::string& u) { return u == "\xB0" "F" ? c
 // Each generator: its ladder's magnitude and decades between neighbours
 // (0 for the imperial and temperature ones), most parts, the answer's range,
 // and which named units may appear.
-struct Caso {
-  int gen;
-  std::string magnitud;
-  int decadas, maxPartes, maxItems;
-  double minimo, maximo;
-  bool litros, agrarias;
-};
+struct Caso { int gen; std::string magnitud; int decadas, maxPartes, maxItems; double minimo, maximo; bool litros, agrarias; };
 const Caso kCasos[] = {
     {11, "g", 1, 4, 8, 0.01, 1e8, false, false},      {12, "m", 1, 4, 8, 0.01, 1e8, false, false},
     {13, "m^2", 2, 3, 8, 0.009, 9.9e8, false, false}, {14, "m^2", 2, 3, 8, 0.002, 9.9e8, false, true},
@@ -106,16 +93,15 @@ std::vector<std::string> Comprueba(const Caso& c, const Hecho& h) {
       continue;
     }
     const Medida a = Unidad(destino);
-    for (const Cantidad& p : partes) {
-      for (const std::string& u : {p.unidad, destino}) {  // named units only where the ladder has them
-        EXPECT_TRUE(c.litros || u.back() != 'L') << u;
-        EXPECT_TRUE(c.gen != 16 || u.back() == 'L') << u;
-        EXPECT_TRUE(c.agrarias || (u != "ha" && u != "a" && u != "ca")) << u;
-      }
-    }
+    auto nombradas = [&c](const std::string& u) {  // named units only where the ladder has them
+      EXPECT_TRUE((c.litros || u.back() != 'L') && (c.gen != 16 || u.back() == 'L')) << u;
+      EXPECT_TRUE(c.agrarias || (u != "ha" && u != "a" && u != "ca")) << u;
+    };
+    nombradas(destino);
     double esperado = 0;
     std::set<int> usadas;
     for (const Cantidad& p : partes) {
+      nombradas(p.unidad);
       const Medida de = Unidad(p.unidad);
       EXPECT_EQ(de.magnitud, c.magnitud) << p.unidad;
       esperado += p.valor * de.tamano / a.tamano;
@@ -142,8 +128,7 @@ TEST(Conversiones, EveryAnswerFollowsFromItsDataAndEveryItemDiffers) {
       GenContext g(&Textos(), Aleatorio(static_cast<uint64_t>(seed * 31 + c.gen)));
       const Hecho h = Genera(g, c.gen, seed * 5, c.maxItems);
       SCOPED_TRACE(h.st + "\n" + h.so);
-      EXPECT_EQ(CuentaItems(h.st), c.maxItems);
-      EXPECT_EQ(CuentaItems(h.so), c.maxItems);
+      EXPECT_TRUE(CuentaItems(h.st) == c.maxItems && CuentaItems(h.so) == c.maxItems);
       const auto destinos = Comprueba(c, h);
       for (int i = 1; i <= c.maxItems; ++i) formas.insert({Datos(Item(h.st, i)).at(0).unidad, destinos.at(i - 1)});
       if (c.gen == 18 || c.gen == 19) {  // the scales stated; each form and its reverse by the counter
@@ -175,14 +160,12 @@ TEST(Conversiones, ItemCountsKeepToTheirBounds) {
   for (int gen = 11; gen <= 21; ++gen)
     for (const auto& [pedidos, dados] : std::map<int, int>{{0, 2}, {1, 2}, {5, 5}, {30, gen <= 17 ? 8 : 26}})
       EXPECT_EQ(CuentaItems(Genera(g, gen, 3, pedidos).st), dados) << gen << " " << pedidos;
-  g.GP_Items = 30;  // a wrapper's bound stops at the alphabet
-  g.GP_MaxItems = "027";
+  g.GP_Items = 30, g.GP_MaxItems = "027";  // a wrapper's bound stops at the alphabet
   ConversionesDecimales(g, Escalera::Volumen);
   EXPECT_EQ(Comprueba(kCasos[4], {g.GP_Statement, g.GP_Solution}).size(), 26u);
 }
 
-// A source whose every value lies below 0.9: no chance fires, so each target
-// and each choice of named units follows the variant counter alone.
+// Every draw below 0.9: no chance fires, so targets and named units follow the counter alone.
 TEST(Conversiones, WithoutChancesTargetsAndNamedUnitsFollowTheCounter) {
   std::mt19937 azar(2024);
   std::uniform_real_distribution<double> bajo(0, 0.899);
@@ -197,8 +180,7 @@ TEST(Conversiones, WithoutChancesTargetsAndNamedUnitsFollowTheCounter) {
       for (int i = 1; i <= 8; ++i) {
         const std::string& d = destinos.at(i - 1);
         const bool nombrada = std::set<std::string>{"kL", "L", "mL", "ha", "a", "ca"}.count(d) > 0;
-        const double paso = std::pow(10.0, c.decadas);
-        const int indice = 4 - static_cast<int>(std::lround(std::log10(Unidad(d).tamano / (c.gen == 16 ? 1e-3 : 1)) / std::log10(paso)));
+        const int indice = 4 - static_cast<int>(std::lround(std::log10(Unidad(d).tamano / (c.gen == 16 ? 1e-3 : 1)) / c.decadas));
         EXPECT_EQ(indice, (seqB + i) % 7 + 1) << d;
         if (c.gen == 14 || c.gen == 17) {
           EXPECT_EQ(nombrada, (seqB + i) % 3 != 0 && indice >= (c.gen == 14 ? 2 : 4) && indice <= (c.gen == 14 ? 4 : 6)) << d;

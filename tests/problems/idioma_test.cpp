@@ -1,15 +1,12 @@
 #include "problems/idioma.h"
 
 #include <gtest/gtest.h>
-
 #include <QTemporaryDir>
-
 #include <fstream>
 #include <map>
 #include <regex>
 #include <set>
 #include <tuple>
-
 #include "modules/modulos.h"
 #include "problems/generic.h"
 #include "problems/silabo_sed.h"
@@ -20,8 +17,7 @@ namespace fs = std::filesystem;
 namespace ss {
 namespace {
 
-// A program folder of its own, with a lang/ inside.
-struct Carpeta {
+struct Carpeta {  // a program folder with a lang/ inside
   Carpeta() { fs::create_directories(raiz / "lang"); }
   void Escribe(const fs::path& name, const std::string& bytes) {
     std::ofstream(raiz / name, std::ios::binary) << bytes;
@@ -65,8 +61,7 @@ TEST(MessageFiles, TheCodeChoosesTheTableSlipsAreReportedBrokenLinesAreFatal) {
   c.Escribe("lang/ENG_MGE_MAT.lmo", "[Speed]=rate\r\n");
   c.Escribe("lang/ENG_MGE_QUI.lmo", "[ Key ]=text \r\n[Other]=fine\r\n");
   c.Escribe("lang/ENG_MGE_XYZ.lmo", "[Speed]=none\r\n");
-  Notacion n;
-  n.separadorDecimal = ",";
+  Notacion n{.separadorDecimal = ","};
   InitServicios(n, m);
   EXPECT_EQ(n.separadorDecimal, ".");  // the defaults come back
   EXPECT_EQ(g.MsgFIS("speed") + "|" + g.MsgMAT("speed") + "|" + g.MsgQUI("speed"), "velocity|rate|");
@@ -79,13 +74,10 @@ TEST(MessageFiles, TheCodeChoosesTheTableSlipsAreReportedBrokenLinesAreFatal) {
   c.Escribe("lang/ENG_MGE_QUI.lmo", "[Good]=1\r\n; fine\r\n  [Bad = 2\r\n[Later]=3\r\n");
   Mensajes otra(c.raiz);
   std::string que = "accepted";
-  try {
-    otra.LoadMGE("QUI");
-  } catch (const ErrorFatalDatos& e) {
+  try { otra.LoadMGE("QUI"); } catch (const ErrorFatalDatos& e) {
     que = e.fichero().filename().string() + ":" + std::to_string(e.linea()) + " | " + e.what();
   }
-  EXPECT_TRUE(que.starts_with("ENG_MGE_QUI.lmo:3 | ") && que.ends_with("ENG_MGE_QUI.lmo:3: an entry without \"]=\""))
-      << que;
+  EXPECT_TRUE(que.starts_with("ENG_MGE_QUI.lmo:3 | ") && que.ends_with("QUI.lmo:3: an entry without \"]=\"")) << que;
   EXPECT_FALSE(otra.Cargada(TablaMensajes::QUI));
 }
 
@@ -102,8 +94,6 @@ TEST(WindowFiles, TextsWithLineBreaksAndAccelerators) {
       {falta.GetL_win("A"), ""}};
   for (const auto& [got, expected] : cases) EXPECT_EQ(got, expected);
 }
-
-// The language files we ship.
 
 TEST(ShippedLanguageFiles, AreWellFormedCrLfWindows1252WithoutSlips) {
   for (const auto& entry : fs::directory_iterator(fs::path(SS_SOURCE_DIR) / "lang")) {
@@ -140,10 +130,7 @@ TEST(ShippedLanguageFiles, EveryWindowKeyHasACaption) {
   EXPECT_GT(checked, 250);
 }
 
-// Education systems.
-
-// A program folder with an education system of one subject, whose text file
-// (when given) holds `lineas`.
+// An education system of one subject, whose text file (when given) holds `lineas`.
 struct Sistema : Carpeta {
   explicit Sistema(const std::optional<std::string>& lineas) {
     Escribe("test.sed", "<NOMSYS>Test system</NOMSYS>\r\n<ASIG><NOM>Subject</NOM><MODG>SUBJ.lmo</MODG>"
@@ -151,7 +138,6 @@ struct Sistema : Carpeta {
     if (lineas) Escribe("lang/SUBJ.lmo", std::regex_replace(*lineas, std::regex("\n"), "\r\n"));
     silabo.Carga();
   }
-  // Places generator n of DIS as the catalogue would after its entry.
   SubtemaResuelto Resuelve(int n = 4) {
     GenContext g;
     g.GP_ThemeKey = "T_Gases", g.GP_ThemeName = "Base topic", g.GP_ThemeOrd = "760";
@@ -180,41 +166,39 @@ TEST(SedFiles, SubjectsAllOrNothingAndTheSystemsName) {
 }
 
 TEST(ResolverSubtema, TagsSetOrdinalsNamesAndTopicsOrShowABox) {
-  // Topic entry, subtopic entry; expected: topic, its ordinal, subtopic, its ordinal; or the
-  // box shown, and then the generator stays out of the subject.
-  const char* cases[][3] = {
+  const std::string fuera = "Error leyendo n\xBA ordinal del ", sintaxis = "Error de sintaxis leyendo ",
+                    enSub = " en la etiqueta de subtema [S_DIS_4]  ", contenido = " contenido en subtema [S_DIS_4]  ",
+                    base = "con etiqueta (en m\xF3" "dulo base) ";
+  // Topic entry, subtopic entry; expected: topic, ordinals and subtopic, or the box shown.
+  const std::string cases[][3] = {
       {"<#7#>", "", "Base topic 007 Base subtopic 020"},
       {"<# 42 #>  Gas laws ", "Boyle", "Gas laws 042 Boyle 020"},
       {"Gases", "<#12#><%Optics%><$3$>Lenses", "Optics 012 Lenses 003"},
       {"", "<#760#><@T_Other@>Ideal", "Other topic 760 Ideal 020"},
       {"<#3#>", "<$5$>", "Base topic 003 Base subtopic 005"},
       {"", "<#9#><% New %>", "New 009 Base subtopic 020"},
-      // A topic tag is read only right behind an ordinal tag.
-      {"Gases", "<@T_Other@>Ideal", "Gases 760 <@T_Other@>Ideal 020"},
-      // A topic the subject file does not name has no name: the dispatcher leaves it out.
-      {"", "Plain", " 760 Plain 020"},
-      {"<#1234#>Heat", "x", "Error leyendo n\xBA ordinal del tema con etiqueta (en m\xF3" "dulo base) [T_Gases] valor fuera de rango "},
-      {"<#12 Heat", "x", "Error de sintaxis leyendo n\xBA ordinal del tema con etiqueta (en m\xF3" "dulo base) [T_Gases]  falta #> de cierre"},
-      {"<#1a#>Heat", "x", "Error leyendo n\xBA ordinal del tema con etiqueta (en m\xF3" "dulo base) [T_Gases] valor fuera de rango "},
-      {"", "<#12<%A%>x", "Error de sintaxis leyendo n\xBA ordinal del tema en la etiqueta de subtema [S_DIS_4]  falta #> de cierre"},
-      {"", "<#-1#><%A%>x", "Error leyendo n\xBA ordinal del tema en la etiqueta de subtema [S_DIS_4] valor fuera de rango "},
-      {"", "<#1#><%A x", "Error de sintaxis leyendo nombre de nuevo tema en la etiqueta de subtema [S_DIS_4]  falta %> de cierre"},
-      {"", "<#1#><%  %>x", "Error de sintaxis leyendo nombre de nuevo tema en la etiqueta de subtema [S_DIS_4]  nombre de tema vac\xEDo"},
-      {"", "<#1#><@T_Num x", "Error de sintaxis leyendo etiqueta de tema en la etiqueta de subtema [S_DIS_4]  falta @> de cierre"},
-      {"", "<#1#><@@>x", "Error de sintaxis leyendo etiqueta de tema contenido en subtema [S_DIS_4]  falta la etiqueta"},
-      {"", "<#1#><@T_None@>x", "Error de sintaxis leyendo nombre de tema de etiqueta de tema contenido en subtema [S_DIS_4]  "
-                           "falta el tema correspondiente a la etiqueta"},
-      {"", "<#1#><@T_Num@>x", "Error de sintaxis leyendo nombre de tema de etiqueta de tema contenido en subtema [S_DIS_4]  "
-                          "el tema tiene un ordinal expl\xED" "cito"},
-      {"", "<#1#>x", "Error de sintaxis leyendo tema contenido en subtema [S_DIS_4]  "
-                 "Falta la etiqueta de tema existente o el nombre de un nuevo tema"},
-      {"", "<$3 x", "Error de sintaxis leyendo n\xBA ordinal del subtema con etiqueta  [S_DIS_4]  falta $> de cierre"},
-      {"", "<$1000$>x", "Error leyendo n\xBA ordinal del subtema con etiqueta (en m\xF3" "dulo base) [S_DIS_4] "
-                    "valor del n\xFAmero fuera de rango "},
+      {"Gases", "<@T_Other@>Ideal", "Gases 760 <@T_Other@>Ideal 020"},  // a topic tag only behind an ordinal
+      {"", "Plain", " 760 Plain 020"},  // an unnamed topic: the dispatcher leaves it out
+      {"<#1234#>Heat", "x", fuera + "tema " + base + "[T_Gases] valor fuera de rango "},
+      {"<#12 Heat", "x", sintaxis + "n\xBA ordinal del tema " + base + "[T_Gases]  falta #> de cierre"},
+      {"<#1a#>Heat", "x", fuera + "tema " + base + "[T_Gases] valor fuera de rango "},
+      {"", "<#12<%A%>x", sintaxis + "n\xBA ordinal del tema" + enSub + "falta #> de cierre"},
+      {"", "<#-1#><%A%>x", fuera + "tema en la etiqueta de subtema [S_DIS_4] valor fuera de rango "},
+      {"", "<#1#><%A x", sintaxis + "nombre de nuevo tema" + enSub + "falta %> de cierre"},
+      {"", "<#1#><%  %>x", sintaxis + "nombre de nuevo tema" + enSub + "nombre de tema vac\xEDo"},
+      {"", "<#1#><@T_Num x", sintaxis + "etiqueta de tema" + enSub + "falta @> de cierre"},
+      {"", "<#1#><@@>x", sintaxis + "etiqueta de tema" + contenido + "falta la etiqueta"},
+      {"", "<#1#><@T_None@>x", sintaxis + "nombre de tema de etiqueta de tema" + contenido +
+                                   "falta el tema correspondiente a la etiqueta"},
+      {"", "<#1#><@T_Num@>x", sintaxis + "nombre de tema de etiqueta de tema" + contenido +
+                                  "el tema tiene un ordinal expl\xED" "cito"},
+      {"", "<#1#>x", sintaxis + "tema" + contenido + "Falta la etiqueta de tema existente o el nombre de un nuevo tema"},
+      {"", "<$3 x", sintaxis + "n\xBA ordinal del subtema con etiqueta  [S_DIS_4]  falta $> de cierre"},
+      {"", "<$1000$>x", fuera + "subtema " + base + "[S_DIS_4] valor del n\xFAmero fuera de rango "},
   };
   for (const auto& [tema, subtema, expected] : cases) {
     Sistema s("[Asig]=Subject\n[T_Other]=Other topic\n[T_Num]=<#1#>Numbered\n[D_DIS_4]=\n[S_DIS_4]=" +
-              std::string(subtema) + "\n" + (*tema ? "[T_Gases]=" + std::string(tema) + "\n" : ""));
+              subtema + "\n" + (tema.empty() ? "" : "[T_Gases]=" + tema + "\n"));
     const SubtemaResuelto r = s.Resuelve();
     if (s.avisos.empty()) {
       EXPECT_EQ(r.tema + " " + r.ordTema + " " + r.subtema + " " + r.ordSubtema, expected) << subtema;
@@ -247,7 +231,7 @@ TEST(ResolverSubtema, AbsentEmptyAndFatalEntries) {
 }
 
 TEST(ShippedSystem, ListsItsSubjectsWithoutAnError) {
-  Carpeta c;  // the .sed files stand in the program folder, in the repository in sysedu/
+  Carpeta c;  // the .sed files stand in the program folder
   fs::copy(fs::path(SS_SOURCE_DIR) / "sysedu", c.raiz, fs::copy_options::recursive);
   fs::copy(fs::path(SS_SOURCE_DIR) / "lang", c.raiz / "lang", fs::copy_options::recursive);
   std::vector<std::string> avisos;

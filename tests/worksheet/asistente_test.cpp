@@ -1,66 +1,50 @@
 // The decisions of the wizard and of the settings window, checked against
 // values worked out by hand.
+#include "worksheet/asistente.h"
+
 #include <gtest/gtest.h>
 
 #include "problems/idioma.h"
-#include "worksheet/asistente.h"
 
 namespace ss {
 namespace {
 
 TEST(Paleta, AClickPicksTheColourUnderItAndStaysInTheStrip) {
-  const struct {
-    int x, indice;
-  } casos[] = {{-50, 0}, {3, 0}, {12, 0}, {14, 1}, {23, 1}, {103, 5}, {423, 21}, {2000, 21}};
-  for (const auto& c : casos) EXPECT_EQ(IndicePaletaEn(c.x), c.indice) << c.x;
-  // Colours are stored as red + 256 green + 65536 blue.
-  EXPECT_EQ(ColorPaleta(0), 16777215);
-  EXPECT_EQ(ColorPaleta(5), 192 + 256 * 192 + 65536 * 255);
-  EXPECT_EQ(ColorPaleta(21), 192 + 256 * 224 + 65536 * 224);
-  // The palette repeats two colours: the first of each pair is found.
-  EXPECT_EQ(IndiceDeColor(ColorPaleta(16)), 15);
-  EXPECT_EQ(IndiceDeColor(ColorPaleta(19)), 14);
-  EXPECT_EQ(IndiceDeColor(123), -1);
+  const std::pair<int, int> casos[] = {{-50, 0}, {3, 0}, {12, 0}, {14, 1}, {23, 1}, {103, 5}, {423, 21}, {2000, 21}};
+  for (const auto& [x, indice] : casos) EXPECT_EQ(IndicePaletaEn(x), indice) << x;
+  // Colours are stored as red + 256 green + 65536 blue; of a repeated colour the first is found.
+  EXPECT_EQ(std::tuple(ColorPaleta(0), ColorPaleta(5), ColorPaleta(21)),
+            std::tuple(16777215, 192 + 256 * 192 + 65536 * 255, 192 + 256 * 224 + 65536 * 224));
+  EXPECT_EQ(std::tuple(IndiceDeColor(ColorPaleta(16)), IndiceDeColor(ColorPaleta(19)), IndiceDeColor(123)),
+            std::tuple(15, 14, -1));
 }
 
 TEST(NumeroDePagina, EachPlaceHasItsCodeAndBack) {
   // Head: right 1, left 2, centre 3, odd right 4, odd left 5; the foot adds 8.
-  const struct {
-    bool abajo;
-    Alineacion a;
-    int codigo;
-  } casos[] = {{false, Alineacion::Izquierda, 2},  {false, Alineacion::Centro, 3},
-               {false, Alineacion::Derecha, 1},    {false, Alineacion::FueraImpar, 4},
-               {false, Alineacion::DentroImpar, 5}, {true, Alineacion::Izquierda, 10},
-               {true, Alineacion::Centro, 11},     {true, Alineacion::Derecha, 9},
-               {true, Alineacion::FueraImpar, 12}, {true, Alineacion::DentroImpar, 13}};
-  for (const auto& c : casos) {
-    EXPECT_EQ(PosNumPag({true, c.abajo, c.a}), c.codigo);
-    EXPECT_EQ(PosNumPag({false, c.abajo, c.a}), 0);
-    const LugarNumero l = LugarDe(c.codigo);
-    EXPECT_TRUE(l.mostrar && l.abajo == c.abajo && l.alineacion == c.a) << c.codigo;
-  }
+  const std::pair<Alineacion, int> casos[] = {{Alineacion::Izquierda, 2}, {Alineacion::Centro, 3},
+      {Alineacion::Derecha, 1}, {Alineacion::FueraImpar, 4}, {Alineacion::DentroImpar, 5}};
+  for (bool abajo : {false, true})
+    for (const auto& [al, cabeza] : casos) {
+      const int codigo = cabeza + (abajo ? 8 : 0);
+      EXPECT_EQ(PosNumPag({true, abajo, al}), codigo);
+      EXPECT_EQ(PosNumPag({false, abajo, al}), 0);
+      const LugarNumero l = LugarDe(codigo);
+      EXPECT_TRUE(l.mostrar && l.abajo == abajo && l.alineacion == al) << codigo;
+    }
   EXPECT_FALSE(LugarDe(0).mostrar);
 }
 
 TEST(Cantidades, RangesFollowTheGeneratorAndBadTextGivesNothing) {
-  EXPECT_EQ(RangoCantidad2(0), (Rango{1, 1}));  // a blank maximum
-  EXPECT_EQ(RangoCantidad2(1), (Rango{1, 1}));
-  EXPECT_EQ(RangoCantidad2(5), (Rango{2, 5}));
-  EXPECT_EQ(RangoCantidad2(27), (Rango{2, 27}));
-  EXPECT_EQ(RangoCantidad2(150), (Rango{2, 99}));
-  const struct {
-    const char* texto;
-    std::optional<int> valor;
-  } casos[] = {{"1", 1}, {" 99 ", 99}, {"0", std::nullopt}, {"100", std::nullopt}, {"", std::nullopt},
-               {"abc", std::nullopt}, {"4a", std::nullopt}, {"-3", std::nullopt}, {"123456789012", std::nullopt}};
-  for (const auto& c : casos) EXPECT_EQ(LeeCantidad(c.texto, kRangoCantidad1), c.valor) << c.texto;
-  EXPECT_EQ(LeeNumeroInicial(""), 1);
-  EXPECT_EQ(LeeNumeroInicial("0"), 1);
-  EXPECT_EQ(LeeNumeroInicial("250"), 250);
-  EXPECT_EQ(LeeNumeroInicial("999999999"), 999999999);
-  EXPECT_EQ(LeeNumeroInicial("1234567890"), 1);  // ten digits would not fit
-  EXPECT_EQ(LeeNumeroInicial("12a"), 1);
+  const std::pair<int, Rango> rangos[] = {{0, {1, 1}}, {1, {1, 1}}, {5, {2, 5}}, {27, {2, 27}}, {150, {2, 99}}};
+  for (const auto& [max, r] : rangos) EXPECT_EQ(RangoCantidad2(max), r) << max;
+  const std::optional<int> nada;
+  const std::pair<const char*, std::optional<int>> textos[] = {{"1", 1}, {" 99 ", 99}, {"0", nada}, {"100", nada},
+      {"", nada}, {"abc", nada}, {"4a", nada}, {"-3", nada}, {"123456789012", nada}};
+  for (const auto& [t, v] : textos) EXPECT_EQ(LeeCantidad(t, kRangoCantidad1), v) << t;
+  // Ten digits would not fit; anything unread starts at 1.
+  const std::pair<const char*, int> iniciales[] = {
+      {"", 1}, {"0", 1}, {"250", 250}, {"999999999", 999999999}, {"1234567890", 1}, {"12a", 1}};
+  for (const auto& [t, v] : iniciales) EXPECT_EQ(LeeNumeroInicial(t), v) << t;
 }
 
 TEST(Cantidades, AMarkedRowGetsAmountsWithinItsGeneratorsRange) {
@@ -77,8 +61,7 @@ TEST(Cantidades, AMarkedRowGetsAmountsWithinItsGeneratorsRange) {
     ArbolItem f;
     f.Tipo = c.tipo, f.MaxCantidad2 = c.max, f.Cantidad1 = c.c1, f.Cantidad2 = c.c2;
     DaCantidades(f);
-    EXPECT_EQ(f.Cantidad1, c.c1Esperada);
-    EXPECT_EQ(f.Cantidad2, c.c2Esperada);
+    EXPECT_EQ(std::pair(f.Cantidad1, f.Cantidad2), std::pair(c.c1Esperada, c.c2Esperada)) << c.tipo << " " << c.max;
   }
 }
 
@@ -86,47 +69,33 @@ TEST(Cantidades, AMarkedRowGetsAmountsWithinItsGeneratorsRange) {
 // question).
 Arbol ArbolDePrueba() {
   Arbol a;
-  auto fila = [&a](int nivel, int tipo, const char* nombre) -> ArbolItem& {
+  const std::tuple<int, int, const char*> filas[] = {{0, 6, "Chemistry"},     {1, 5, "Gases"},
+                                                     {2, 3, "Gas laws"},      {1, 5, "Units"},
+                                                     {2, 2, "Units of mass"}, {2, 1, "Symbols of units"}};
+  for (const auto& [nivel, tipo, nombre] : filas) {
     ArbolItem f;
     f.Nivel = static_cast<int16_t>(nivel), f.Tipo = static_cast<int16_t>(tipo), f.Nombre = nombre;
-    return a.Agrega(f);
-  };
-  fila(0, 6, "Chemistry");
-  fila(1, 5, "Gases");
-  fila(2, 3, "Gas laws");
-  fila(1, 5, "Units");
-  fila(2, 2, "Units of mass");
-  fila(2, 1, "Symbols of units");
+    a.Agrega(f);
+  }
   return a;
 }
 
-TEST(Titulo, NamesTheKindAndTheOneTopicOrTheSubject) {
+TEST(Marcadas, TheTitleNamesTheKindAndTopicAndTheCountAddsTheirAmounts) {
   TextosVentana t(SS_SOURCE_DIR, "WIZ");
   t.LoadIdioma();
-  const struct {
-    std::vector<int> marcadas;
-    const char* titulo;
-  } casos[] = {{{}, ""},
-               {{3}, "Problems of Gases"},
-               {{5}, "Exercises of Units"},
-               {{6}, "Questions of Units"},
-               {{5, 6}, "Problems of Units"},
-               {{3, 5}, "Problems of Chemistry"}};
-  for (const auto& c : casos) {
+  const std::pair<std::vector<int>, const char*> casos[] = {{{}, ""}, {{3}, "Problems of Gases"},
+      {{5}, "Exercises of Units"}, {{6}, "Questions of Units"}, {{5, 6}, "Problems of Units"},
+      {{3, 5}, "Problems of Chemistry"}};
+  for (const auto& [marcadas, titulo] : casos) {
     Arbol a = ArbolDePrueba();
-    for (int i : c.marcadas) a.filas[static_cast<std::size_t>(i)].Marcado = true;
-    EXPECT_EQ(GetDefaultTitle(a, t), c.titulo);
+    for (int i : marcadas) a.filas[static_cast<std::size_t>(i)].Marcado = true;
+    EXPECT_EQ(GetDefaultTitle(a, t), titulo);
   }
   Arbol a = ArbolDePrueba();
   a.filas[3].Marcado = true;
   EXPECT_EQ(GetDefaultTitle(a, t, "ESP"), "Problems de Gases");
-}
-
-TEST(Recuenta, AddsTheMarkedRowsOnly) {
-  Arbol a = ArbolDePrueba();
-  a.filas[3].Marcado = true, a.filas[3].Cantidad1 = 99;
-  a.filas[5].Marcado = true, a.filas[5].Cantidad1 = 402;
-  a.filas[6].Cantidad1 = 7;  // not marked
+  // The count adds the marked rows only.
+  a.filas[3].Cantidad1 = 99, a.filas[5].Marcado = true, a.filas[5].Cantidad1 = 402, a.filas[6].Cantidad1 = 7;
   EXPECT_EQ(Recuenta(a), 501);
 }
 
@@ -135,29 +104,27 @@ TEST(Paginas, TheWalkSkipsThePagesNotShown) {
   std::vector<int> ida{basicas.Primera()};
   while (basicas.Siguiente(ida.back()) != ida.back()) ida.push_back(basicas.Siguiente(ida.back()));
   EXPECT_EQ(ida, (std::vector<int>{1, 2, 4, 7}));
-  EXPECT_EQ(basicas.Anterior(7), 4);
-  EXPECT_EQ(basicas.Anterior(1), 1);
-  const PaginasAsistente sinBienvenida = PaginasAsistente::Para(false, true);
-  EXPECT_EQ(sinBienvenida.Primera(), 2);
-  EXPECT_EQ(sinBienvenida.Anterior(2), 2);
-  EXPECT_EQ(sinBienvenida.Siguiente(4), 5);
-  EXPECT_EQ(sinBienvenida.Siguiente(7), 7);
+  EXPECT_EQ(std::pair(basicas.Anterior(7), basicas.Anterior(1)), std::pair(4, 1));
+  const PaginasAsistente sin = PaginasAsistente::Para(false, true);  // no welcome page
+  EXPECT_EQ(std::tuple(sin.Primera(), sin.Anterior(2), sin.Siguiente(4), sin.Siguiente(7)), std::tuple(2, 2, 5, 7));
   // The tree is built again when the system, the subject or the kinds change.
-  EXPECT_NE(FirmaArbol("a.sed", "Chemistry", kTiposPorDefecto), FirmaArbol("", "Chemistry", kTiposPorDefecto));
-  EXPECT_NE(FirmaArbol("", "Chemistry", kTiposPorDefecto), FirmaArbol("", "Chemistry", {true, false, true, false}));
-  EXPECT_EQ(FirmaArbol("", "Chemistry", kTiposPorDefecto), FirmaArbol("", "Chemistry", kTiposPorDefecto));
+  const auto firma = FirmaArbol("", "Chemistry", kTiposPorDefecto);
+  EXPECT_NE(FirmaArbol("a.sed", "Chemistry", kTiposPorDefecto), firma);
+  EXPECT_NE(FirmaArbol("", "Chemistry", {true, false, true, false}), firma);
+  EXPECT_EQ(FirmaArbol("", "Chemistry", kTiposPorDefecto), firma);
 }
 
-TEST(Defectos, WhatTheWizardStoresIsWhatTheNextOneStartsFrom) {
-  TextosVentana t(SS_SOURCE_DIR, "MAI");
+class Guardado : public ::testing::Test {
+ protected:
+  TextosVentana t{SS_SOURCE_DIR, "MAI"};
   AlmacenMemoria al;
   Ajustes a = LeeAjustes(al, t);
-  const ColeccionCab nueva = CabeceraNueva(a);
-  EXPECT_EQ(nueva.POSSOL, 3);
-  EXPECT_EQ(nueva.POSNUMPAG, 11);
-  EXPECT_NE(nueva.ORDENA, 0);
+};
 
-  ColeccionCab c = nueva;
+TEST_F(Guardado, WhatTheWizardStoresIsWhatTheNextOneStartsFrom) {
+  ColeccionCab c = CabeceraNueva(a);
+  EXPECT_EQ(std::tuple(c.POSSOL, c.POSNUMPAG), std::tuple(3, 11));
+  EXPECT_NE(c.ORDENA, 0);
   c.ORDENA = 0, c.POSSOL = 0, c.PROPRE = "No. ", c.PROSUF = ".", c.POSNUMPAG = 4, c.COLRESPRO = 0;
   TomaDefectos(c, a);
   GuardarAjustesAsistente(a, al);
@@ -167,56 +134,36 @@ TEST(Defectos, WhatTheWizardStoresIsWhatTheNextOneStartsFrom) {
   a.posti1 = "Date:";
   GuardaTextosPequenos(p, a, al);
 
-  const ColeccionCab otra = CabeceraNueva(LeeAjustes(al, t));
-  EXPECT_EQ(otra.ORDENA, 0);
-  EXPECT_EQ(otra.POSSOL, 0);
-  EXPECT_EQ(otra.PROPRE, "No. ");
-  EXPECT_EQ(otra.PROSUF, ".");
-  EXPECT_EQ(otra.POSNUMPAG, 4);
-  EXPECT_EQ(otra.COLRESPRO, 16777215);  // no colour is white
-  EXPECT_EQ(otra.PRETIT, "Hill School");
-  EXPECT_EQ(otra.POSTI1, "");  // not a default: the box starts empty
-  EXPECT_EQ(otra.POSTI2, "");
-  EXPECT_EQ(otra.TITULO, "");
-  EXPECT_EQ(otra.PROINI, 1);
-  EXPECT_FALSE(al.Lee("Wizard", "Posti1").has_value());  // no text is stored for it
+  // No colour is white; a text that is not a default leaves its box empty
+  // and stores nothing.
+  const ColeccionCab o = CabeceraNueva(LeeAjustes(al, t));
+  EXPECT_EQ(std::tuple(o.ORDENA, o.POSSOL, o.PROPRE, o.PROSUF, o.POSNUMPAG, o.COLRESPRO, o.PROINI),
+            std::tuple(0, 0, "No. ", ".", 4, 16777215, 1));
+  EXPECT_EQ((std::vector<std::string>{o.PRETIT, o.POSTI1, o.POSTI2, o.TITULO}),
+            (std::vector<std::string>{"Hill School", "", "", ""}));
+  EXPECT_FALSE(al.Lee("Wizard", "Posti1").has_value());
   EXPECT_EQ(al.Lee("Wizard", "Chkposti1").value_or("?"), "N");
 }
 
-TEST(Notacion, TheChoicesStandForTheSettingsAndComeBackFromTheStore) {
-  TextosVentana t(SS_SOURCE_DIR, "MAI");
-  AlmacenMemoria al;
-  Ajustes a = LeeAjustes(al, t);
+TEST_F(Guardado, NotationChoicesStandForTheSettingsAndComeBackFromTheStore) {
   OpcionesNotacion o = NotacionDe(a);
-  EXPECT_EQ(o.separadores, Separadores::PuntoComa);
-  EXPECT_EQ(o.moneda, Moneda::Dolar);
-  EXPECT_EQ(o.division, SignoDivision::Obelo);
+  EXPECT_EQ(std::tuple(o.separadores, o.moneda, o.division),
+            std::tuple(Separadores::PuntoComa, Moneda::Dolar, SignoDivision::Obelo));
   EXPECT_TRUE(o.sigma && o.frecuenciaN && o.productoAspa && !o.cientificoPunto && !o.intervaloInvertido);
 
-  o.separadores = Separadores::ComaPuntoYComa;
-  o.intervaloInvertido = true;
-  o.sigma = false, o.frecuenciaN = false, o.cientificoPunto = true, o.productoAspa = false;
-  o.division = SignoDivision::Barra;
+  o.separadores = Separadores::ComaPuntoYComa, o.division = SignoDivision::Barra;
+  o.intervaloInvertido = true, o.sigma = false, o.frecuenciaN = false, o.cientificoPunto = true, o.productoAspa = false;
   o.moneda = Moneda::Otra, o.simbolo = " CHF ", o.singular = "franc", o.plural = "francs";
   o.espejoPositivo = {true, false, true, false};
   ASSERT_TRUE(MonedaCompleta(o));
   AplicaNotacion(o, a, al, "dollar", "dollars");
   const Ajustes b = LeeAjustes(al, t);
-  EXPECT_EQ(b.decimal, ",");
-  EXPECT_EQ(b.lista, ";");
-  EXPECT_EQ(b.intervaloAbre, "]");
-  EXPECT_EQ(b.intervaloCierra, "[");
-  EXPECT_EQ(b.desviacion, "S");
-  EXPECT_EQ(b.frecuencia, "f");
-  EXPECT_EQ(b.notacionCientifica, "\xB7" "10");
-  EXPECT_EQ(b.producto, "\xB7");
-  EXPECT_EQ(b.division, "/");
-  EXPECT_EQ(b.moneda, "CHF");
-  EXPECT_EQ(b.signosEspejo[0], 1);
-  EXPECT_EQ(b.signosEspejo[1], -1);
+  EXPECT_EQ((std::vector<std::string>{b.decimal, b.lista, b.intervaloAbre, b.intervaloCierra, b.desviacion,
+                                      b.frecuencia, b.notacionCientifica, b.producto, b.division, b.moneda}),
+            (std::vector<std::string>{",", ";", "]", "[", "S", "f", "\xB7" "10", "\xB7", "/", "CHF"}));
+  EXPECT_EQ(std::pair(b.signosEspejo[0], b.signosEspejo[1]), std::pair(1, -1));
   const OpcionesNotacion vuelta = NotacionDe(b);
-  EXPECT_EQ(vuelta.separadores, Separadores::ComaPuntoYComa);
-  EXPECT_EQ(vuelta.moneda, Moneda::Otra);
+  EXPECT_EQ(std::tuple(vuelta.separadores, vuelta.moneda), std::tuple(Separadores::ComaPuntoYComa, Moneda::Otra));
   EXPECT_EQ(vuelta.espejoPositivo, o.espejoPositivo);
 
   // Separators that match no choice fall to the language's pair.
