@@ -18,6 +18,17 @@ bool EntradaCatalogo(GenContext& g, const Entrada& e) {
   return true;
 }
 
+void EntradaLiteral(GenContext& g, std::string_view ordTema, std::string_view tema,
+                    std::string_view ordSubtema, std::string_view subtema, std::string_view maxItems) {
+  g.GP_Level = "2";
+  g.GP_AsigName = "Chemistry";
+  g.GP_ThemeOrd = std::string(ordTema);
+  g.GP_ThemeName = std::string(tema);
+  g.GP_SubOrd = std::string(ordSubtema);
+  g.GP_SubName = std::string(subtema);
+  g.GP_MaxItems = std::string(maxItems);
+}
+
 int ItemsEjercicio(const GenContext& g) {
   int items = std::clamp(g.GP_Items, 2, 26);
   const double most = Val(g.GP_MaxItems);

@@ -34,6 +34,11 @@ struct Entrada {
 // mode also fills the catalogue entry and returns true: the generator is done.
 bool EntradaCatalogo(GenContext& g, const Entrada& e);
 
+// The entry of a fallback list that holds its own English texts: an exercise
+// of the subject "Chemistry" under the given topic and subtopic.
+void EntradaLiteral(GenContext& g, std::string_view ordTema, std::string_view tema,
+                    std::string_view ordSubtema, std::string_view subtema, std::string_view maxItems);
+
 // The number of items of an exercise: GP_Items raised to 2, lowered to 26
 // (one letter each), then to GP_MaxItems.
 int ItemsEjercicio(const GenContext& g);

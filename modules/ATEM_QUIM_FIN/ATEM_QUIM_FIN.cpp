@@ -135,13 +135,7 @@ string Columnas(const std::vector<string>& textos, std::span<const int> columnas
 
 void HazLista(GenContext& g, int numero) {
   const Lista& l = Definicion(numero);
-  g.GP_Level = "2";
-  g.GP_AsigName = "Chemistry";
-  g.GP_ThemeOrd = "750";
-  g.GP_ThemeName = "Nomenclature of inorganic compounds";
-  g.GP_SubOrd = string(l.codigo);
-  g.GP_SubName = string(l.titulo);
-  g.GP_MaxItems = string(l.maximo);
+  EntradaLiteral(g, "750", "Nomenclature of inorganic compounds", l.codigo, l.titulo, l.maximo);
   const int n = ItemsEjercicio(g);
   const std::vector<Compuesto> items = Items(g, l, n);
 

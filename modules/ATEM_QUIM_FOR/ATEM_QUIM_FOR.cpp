@@ -138,23 +138,11 @@ std::vector<int> Elige(GenContext& g, const Tabla& t, int n) {
   return elegidas;
 }
 
-string Mayuscula(string s) {
-  if (!s.empty()) s[0] = UCaseChar(s[0]);
-  return s;
-}
-
 void HazLista(GenContext& g, int numero) {
   const Lista& l = kListas[numero - 1];
-  g.GP_Level = "2";
-  g.GP_AsigName = "Chemistry";
-  g.GP_ThemeOrd = "780";
-  g.GP_ThemeName = "Nomenclature of organic compounds";
-  g.GP_SubOrd = string(l.codigo);
-  g.GP_SubName = string(l.titulo);
-  g.GP_MaxItems = string(l.maximo);
+  EntradaLiteral(g, "780", "Nomenclature of organic compounds", l.codigo, l.titulo, l.maximo);
   const int n = ItemsEjercicio(g);
   const Tabla t = Construye(FilasDe(l.tabla));
-  if (t.filas.empty()) return;  // a table not filled yet gives the notice
 
   g.GP_Statement = l.dibujar ? "&-I&-BDraw structures for these compounds:&LF"
                              : "&-I&-BName the following compounds:&LF";
@@ -162,7 +150,7 @@ void HazLista(GenContext& g, int numero) {
   const std::vector<int> filas = Elige(g, t, n);
   for (int i = 1; i <= n; ++i) {
     const Fila& f = t.filas[static_cast<std::size_t>(filas[static_cast<std::size_t>(i - 1)] - 1)];
-    const string nombre = Mayuscula(f.nombre);
+    const string nombre = Capitaliza(f.nombre);
     const string etiqueta = "&+B" + string(1, static_cast<char>('a' + i - 1)) + ")&-B  ";
     const bool impar = i % 2 == 1;
     g.GP_Statement += (impar ? "&SP=5:" : "&SP=50:") + etiqueta + (l.dibujar ? nombre : f.estructura);
