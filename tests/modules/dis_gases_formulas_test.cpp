@@ -68,8 +68,9 @@ TEST(DisGases, EveryAnswerFollowsFromThePrintedDataAndConstants) {
       for (const auto& [x, u] : todos.Todos()) EXPECT_TRUE(u == "atm" ? x <= 30 : u != "\xB0" "C" || (x >= -50 && x <= 1000)) << x << u;
       if (c.forma == 8 && c.gen == 9) { EXPECT_NE(gases.at(0), gases.at(1)); }
       for (std::size_t i = 0; i < gases.size(); ++i)  // the partial pressure of each gas
-        if (kEbullicion.count(gases[i]) && v.d.En("\xB0" "C") < kEbullicion.at(gases[i]))
+        if (kEbullicion.count(gases[i]) && v.d.En("\xB0" "C") < kEbullicion.at(gases[i])) {
           EXPECT_LT(c.forma == 8 ? esperadas[i] * v.k[0] * v.T() / v.d.En("L") : c.forma == 5 || c.forma == 6 ? esperadas[0] : v.P(), 1);
+        }
       distintos.insert(frase);
     }
     EXPECT_GT(distintos.size(), 60u);
@@ -124,7 +125,7 @@ TEST(DisFormulas, MassMolesParticlesAndCompositionFollowFromTheListedMasses) {
         clases.insert(dada * 10 + pedida);
         const bool ionico = c[0].first != "H" && std::any_of(c.begin(), c.end(), [&](const auto& e) { return metales.count(e.first); });
         // A salt has formula units, an acid molecules.
-        if (ionico || c[0].first == "H") EXPECT_EQ((item + respuesta).find(ionico ? "molecules" : "formula units"), npos);
+        if (ionico || c[0].first == "H") { EXPECT_EQ((item + respuesta).find(ionico ? "molecules" : "formula units"), npos); }
         const double NA = (dada >= kParticulas || pedida >= kParticulas) ? NumerosTras(p.st, "Avogadro's number:").at(0) : 1;
         const int oxigenos = std::accumulate(c.begin(), c.end(), 0, [](int s, const auto& e) { return s + (e.first == "O") * e.second; });
         const double f[] = {M, 1, NA, NA * oxigenos};  // each kind per mole

@@ -42,7 +42,7 @@ TEST(Stoichiometry, EveryReactionOfTheTableIsBalancedWithRealMolarMasses) {
     test::EsperaAjustada(r.ajustada, r.sinAjustar);
     EXPECT_EQ(r.nReactivos + r.nProductos, 3 + (r.s[3].coef != 0)) << fila;
     for (const Sustancia& s : r.s) {
-      if (s.coef != 0) EXPECT_NEAR(s.masaMolar, MasaMolar(s.formula), std::max(0.005 * s.masaMolar, 0.05)) << s.formula;
+      if (s.coef != 0) { EXPECT_NEAR(s.masaMolar, MasaMolar(s.formula), std::max(0.005 * s.masaMolar, 0.05)) << s.formula; }
       // No hydroxide that barely dissolves stands as a solution.
       EXPECT_FALSE(s.fase == "ac" && (s.formula == "Ca(OH)_2" || s.formula == "Al(OH)_3")) << s.formula;
     }
@@ -125,7 +125,7 @@ Leido Lee(const std::string& st, const std::string& so) {
             st.find(test::Texto("Ecua_No_Ajustada")) == std::string::npos) << st;
   l.masas = Masas(st);
   for (const Sustancia& x : l.r.s)
-    if (x.coef != 0) EXPECT_NEAR(l.masas[std::string(x.formula)], MasaMolar(x.formula), 0.5) << x.formula;
+    if (x.coef != 0) { EXPECT_NEAR(l.masas[std::string(x.formula)], MasaMolar(x.formula), 0.5) << x.formula; }
   const test::Datos d(st);
   l.T = d.En("\xB0" "C") + 273.15, l.P = d.En("atm");
   std::smatch m;
@@ -195,7 +195,7 @@ void Cantidades(const Leido& l, int gen, std::set<int>& filas, int& rendimientos
   if (gen == 1 || gen == 6) {
     ASSERT_EQ(l.dadas.size(), 1u);
     filas.insert(gen * 100 + l.r.fila);
-    if (gen == 6) EXPECT_TRUE(l.st.find("& g of") != std::string::npos || l.st.find("& mol of") != std::string::npos);
+    if (gen == 6) { EXPECT_TRUE(l.st.find("& g of") != std::string::npos || l.st.find("& mol of") != std::string::npos); }
   } else if (gen == 2) {
     ASSERT_EQ(l.dadas[0].k, 0);
     y = l.rendimiento;

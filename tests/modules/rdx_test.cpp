@@ -196,8 +196,9 @@ TEST(Redox, EveryFormMakesWholeProblems) {
         const std::string negativo = (gen == 1 && v == 0) || gen == 7 ? "" : R"(|[^_^A-Za-z(]-\d)";
         ASSERT_FALSE(std::regex_search(p.st + p.so, std::regex(R"(%[A-Za-z0-9_]+%|<Error|nan|inf)" + negativo)))
             << p.st << p.so;
-        if (gen >= 5 && gen != 7)
+        if (gen >= 5 && gen != 7) {
           for (double x : test::Numeros(p.st + p.so)) ASSERT_GT(x, 0) << p.st << p.so;
+        }
       }
 }
 

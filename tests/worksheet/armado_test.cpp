@@ -83,7 +83,7 @@ void CompruebaPaginas(Banco& e, std::set<int> cortados = {}) {
   EXPECT_EQ(std::set<int>(e.doc.cortados.begin(), e.doc.cortados.end()), cortados);
   const int pos = e.doc.col.cab.POSNUMPAG;
   auto sol = std::find_if(bl.begin(), bl.end(), [](const Bloque& b) { return b.Problema < 0; });
-  if (e.doc.col.cab.POSSOL == 3 && sol != bl.begin() && sol != bl.end()) EXPECT_GT(sol->Pagina, (sol - 1)->Pagina);  // own page
+  if (e.doc.col.cab.POSSOL == 3 && sol != bl.begin() && sol != bl.end()) { EXPECT_GT(sol->Pagina, (sol - 1)->Pagina); }  // own page
   for (int p = 1; p <= e.doc.numPaginas; ++p) {
     std::string pagina = CabeceraTexto(e.doc.col.cab);
     const Bloque *primero = nullptr, *ultimo = nullptr, *siguiente = nullptr;
@@ -241,7 +241,7 @@ TEST(CrearColeccion, MakesTheTextsInOrderOrShuffledAndLeavesNoFile) {
       mismos += ComandoProblema(p) == ComandoProblema(antes[i]);
       std::string st, so;
       GeneraProblema(referencia, p.Modulo, ComandoProblema(p), st, so);
-      if (ordena) EXPECT_EQ(p.Enunciado + p.Solucion, st + so);
+      if (ordena) { EXPECT_EQ(p.Enunciado + p.Solucion, st + so); }
     }
     EXPECT_EQ(a, b);
     EXPECT_EQ(mismos == 30, ordena != 0);

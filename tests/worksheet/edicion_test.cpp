@@ -67,8 +67,8 @@ TEST(Comandos, EachChangesTheListAsToldAndStoresItsUndoStep) {
     EXPECT_EQ(h.Orden(), c.orden);
     EXPECT_EQ(h.doc.deshacerValido, *c.accion != 0);
     EXPECT_EQ(h.doc.accionDeshacer, c.accion);
-    if (c.hecho) EXPECT_TRUE(h.doc.marcas.empty()) << "a rebuild drops the selection";
-    if (h.doc.deshacerValido) EXPECT_EQ((Deshacer(h.s), h.Orden()), Hoja(c.n).Orden()) << "undo brings the order back";
+    if (c.hecho) { EXPECT_TRUE(h.doc.marcas.empty()) << "a rebuild drops the selection"; }
+    if (h.doc.deshacerValido) { EXPECT_EQ((Deshacer(h.s), h.Orden()), Hoja(c.n).Orden()) << "undo brings the order back"; }
   }
 }
 
